@@ -1,0 +1,167 @@
+#include "logbook/DiveForm.h"
+
+#include "logbook/DiveBlank.h"
+
+namespace sargan {
+
+namespace {
+
+std::vector<ControlSpec> specsOfDiveForm() {
+    std::vector<ControlSpec> specs;
+    for (const DiveControl& control : diveControls()) specs.push_back(control.spec);
+    return specs;
+}
+
+void show(Form& form, int control, Int value) { form.setInteger(control, value); }
+void show(Form& form, int control, Float value) { form.setText(control, shortest(value)); }
+void show(Form& form, int control, const Text& value) { form.setText(control, value); }
+void show(Form& form, int control, const Date& value) { form.setDate(control, value); }
+void show(Form&, int, const Numbers&) {}
+void show(Form&, int, const Picture&) {}
+
+void take(const Form& form, int control, Int& value) { value = form.integer(control); }
+void take(const Form& form, int control, Float& value) { value = Float(form.number(control)); }
+void take(const Form& form, int control, Text& value) { value = form.text(control); }
+void take(const Form& form, int control, Date& value) { value = form.date(control); }
+void take(const Form&, int, Numbers&) {}
+void take(const Form&, int, Picture&) {}
+
+void copyProfile(const Plongee& from, Plongee& to) {
+    to.setProfilProfondeur(from.profilProfondeur());
+    to.setASC_Flag(from.ASC_Flag());
+    to.setSLOW_Flag(from.SLOW_Flag());
+    to.setSURF_Flag(from.SURF_Flag());
+    to.setCEIL_Flag(from.CEIL_Flag());
+    to.setGAZ_Flag(from.GAZ_Flag());
+    to.setPRESS_Data(from.PRESS_Data());
+}
+
+NumberArray orOneSample(const NumberArray& list, bool isReal) {
+    if (!list.isEmpty()) return list;
+    static constexpr double surface[] = {0.0};
+    static constexpr qint32 noFlag[] = {0};
+    return isReal ? NumberArray::ofDoubles(surface) : NumberArray::ofInts(noFlag);
+}
+
+}  // namespace
+
+DiveForm::DiveForm(Desk& desk) : _desk(desk), _form(specsOfDiveForm()) {
+    const auto controls = diveControls();
+    for (int i = 0; i < _form.count(); ++i)
+        if (controls[std::size_t(i)].field) _form.addAlias(QString::fromLatin1(controls[std::size_t(i)].field->name), i);
+    _form.addAction(QStringLiteral("razAir"), [this] { razAir(); });
+    _form.addAction(QStringLiteral("razNitrox"), [this] { razNitrox(); });
+    _form.addAction(QStringLiteral("razHeliox"), [this] { razHeliox(); });
+    _form.addAction(QStringLiteral("blankFields"), [this] { blankFields(); });
+    _form.onEndEditing = [this](int) { updateUI(); };
+    blankFields();
+}
+
+void DiveForm::blankFields() {
+    fillBlankDive(_form, _desk);
+    _working = Plongee();
+    profilArraysDefaultContent();
+    _loaded.reset();
+    updateSlider();
+    _form.setFocus(_form[divecontrol::plongeeNo]);
+}
+
+void DiveForm::editFields(const RecordPointer<Plongee>& dive) {
+    const auto controls = diveControls();
+    for (int i = 0; i < _form.count(); ++i)
+        if (const auto* field = controls[std::size_t(i)].field)
+            field->visit(*dive, [&](const auto& value) { show(_form, i, value); });
+    copyProfile(*dive, _working);
+    _loaded = dive;
+    const auto restOf = [this](ControlName o2, ControlName he) {
+        return int(qint64(100) - _form.integer(o2) - _form.integer(he));
+    };
+    _form.setInteger(divecontrol::n2Mix, restOf(divecontrol::o2Mix, divecontrol::heMix));
+    _form.setInteger(divecontrol::n2Mix2, restOf(divecontrol::o2Mix2, divecontrol::heMix2));
+    updateUI();
+}
+
+Plongee DiveForm::addDiveToList() {
+    checkPressures();
+    checkMix(divecontrol::o2Mix, divecontrol::heMix);
+    checkMix(divecontrol::o2Mix2, divecontrol::heMix2);
+    Plongee dive;
+    const auto controls = diveControls();
+    for (int i = 0; i < _form.count(); ++i)
+        if (const auto* field = controls[std::size_t(i)].field)
+            field->visit(dive, [&](auto& value) { take(_form, i, value); });
+    copyProfile(_working, dive);
+    keepUnknownObjects(dive);
+    return dive;
+}
+
+void DiveForm::updateUI() { updateSlider(); }
+
+void DiveForm::profilArraysDefaultContent() {
+    _working.setProfilProfondeur(orOneSample(_working.profilProfondeur(), true));
+    _working.setASC_Flag(orOneSample(_working.ASC_Flag(), false));
+    _working.setSLOW_Flag(orOneSample(_working.SLOW_Flag(), false));
+    _working.setSURF_Flag(orOneSample(_working.SURF_Flag(), false));
+    _working.setCEIL_Flag(orOneSample(_working.CEIL_Flag(), false));
+    _working.setGAZ_Flag(orOneSample(_working.GAZ_Flag(), false));
+    _working.setPRESS_Data(orOneSample(_working.PRESS_Data(), true));
+}
+
+void DiveForm::razAir() { setMix(21, 79, 0); }
+
+void DiveForm::razNitrox() {
+    const int o2 = _form.integer(divecontrol::o2Mix);
+    setMix(o2, int(qint64(100) - o2), 0);
+}
+
+void DiveForm::razHeliox() {
+    const int o2 = _form.integer(divecontrol::o2Mix);
+    setMix(o2, 0, int(qint64(100) - o2));
+}
+
+void DiveForm::setMix(int o2, int n2, int he) {
+    _form.setFocus(_form[divecontrol::surface]);
+    // What the diver typed as oxygen ("32,5") stays as typed unless the mix is another one.
+    if (_form.integer(divecontrol::o2Mix) != o2) _form.setInteger(divecontrol::o2Mix, o2);
+    _form.setInteger(divecontrol::n2Mix, n2);
+    _form.setInteger(divecontrol::heMix, he);
+    updateUI();
+}
+
+void DiveForm::updateSlider() {
+    static constexpr Message<> words[] = {{"Carnet", "Very easy"}, {"Carnet", "Easy"},      {"Carnet", "Normal"},
+                                          {"Carnet", "Hard"},      {"Carnet", "Very hard"}, {"Carnet", "Extreme"}};
+    const int level = _form.tag(divecontrol::difficulte);
+    _form.setText(divecontrol::difficulteCaption, _desk.strings.text(words[level >= 0 && level < 5 ? level : 5]));
+}
+
+void DiveForm::checkPressures() {
+    const auto isWrong = [this](ControlName start, ControlName end) {
+        const int in = _form.integer(start);
+        const int out = _form.integer(end);
+        return in < 0 || out < 0 || out > in;
+    };
+    if (isWrong(divecontrol::depart, divecontrol::fin) || isWrong(divecontrol::depart2, divecontrol::fin2))
+        _desk.prompt.alert(_desk.strings.text({"Carnet", "Pressure in out"}));
+}
+
+void DiveForm::checkMix(ControlName o2, ControlName he) {
+    if (_form.integer(o2) <= 0) _form.setInteger(o2, 21);
+    const int helium = _form.integer(he);
+    if (helium >= 0 && helium < 87) return;
+    _form.setInteger(he, 0);
+    _desk.prompt.alert(_desk.strings.text({"Carnet", "Helium percent"}));
+}
+
+void DiveForm::keepUnknownObjects(Plongee& dive) const {
+    if (!_loaded || !_loaded->hasKept()) return;
+    const FieldList<Plongee> fields = PlongeeFields::all;
+    for (int i = 0; i < int(fields.size()); ++i) {
+        const ArchivedObject kept = _loaded->kept(i);
+        if (kept.isNil()) continue;
+        const bool same = std::visit([&](auto at) { return sameValue(dive.*at, (*_loaded).*at); }, fields[std::size_t(i)]->member);
+        if (same) dive.keep(i, kept);
+    }
+}
+
+}  // namespace sargan

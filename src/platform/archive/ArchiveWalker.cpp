@@ -1,0 +1,252 @@
+#include "platform/archive/ArchiveWalker.h"
+
+#include <QUtf8StringView>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace sargan {
+
+namespace {
+
+ValueSink& ignoringSink() {
+    static ValueSink sink;
+    return sink;
+}
+
+struct IntegerRange {
+    qint64 least;
+    qint64 most;
+};
+
+template <typename T>
+constexpr IntegerRange rangeOf() {
+    return {std::numeric_limits<T>::min(), std::numeric_limits<T>::max()};
+}
+
+IntegerRange signedRange(char code) {
+    if (code == 's') return rangeOf<qint16>();
+    return code == 'i' ? rangeOf<qint32>() : rangeOf<qint64>();
+}
+
+/// Whether objects of exactly a known class of this family hold nothing but the groups that are checked.
+bool hasFixedLayout(ClassFamily family) {
+    return family == ClassFamily::String || family == ClassFamily::Array || family == ClassFamily::Set ||
+           family == ClassFamily::Dictionary;
+}
+
+quint64 unsignedMost(char code) {
+    if (code == 'S') return std::numeric_limits<quint16>::max();
+    return code == 'I' ? std::numeric_limits<quint32>::max() : std::numeric_limits<quint64>::max();
+}
+
+}  // namespace
+
+NumberKind numberKindOf(QByteArrayView typeCode) {
+    if (typeCode.size() != 1 || !QByteArrayView("ciqfd").contains(typeCode[0])) return NumberKind::Kept;
+    return NumberKind(typeCode[0]);
+}
+
+ArchiveWalker::ArchiveWalker(ItemReader& items, ValueSink* sink, int depth)
+    : _items(items), _sink(sink ? sink : &ignoringSink()), _depth(depth) {}
+
+int ArchiveWalker::object() {
+    return objectAfterHead(_items.objectHead());
+}
+
+int ArchiveWalker::objectAfterHead(const ObjectHead& head) {
+    if (head.what == ObjectHead::Nil) {
+        _sink->nil('@');
+        return 0;
+    }
+    if (head.what == ObjectHead::Reference) {
+        _sink->reference(head.index);
+        return _items.entry(head.index).height();
+    }
+    return contents(head);
+}
+
+int ArchiveWalker::contents(const ObjectHead& head) {
+    if (++_depth > mostNestedObjects) failArchive(head.offset, "at most 256 nested objects", u"more"_s);
+    ValueSink* const sink = _sink;
+    if (!sink->beginObject(head.index, head.cls)) _sink = &ignoringSink();
+    const ObjectEntry cls = _items.entry(head.cls);
+    FoundNumber number;
+    int height = knownGroups(cls, number);
+    if (cls.isDerived() || !hasFixedLayout(cls.family())) height = qMax(height, groups());
+    _items.objectEnd(head, height + 1);
+    if (number.kind != NumberKind::Kept && height == 0) {
+        _items.markNumber(head, number.kind, number.valueOffset);
+    }
+    if (_sink == sink) sink->endObject();
+    _sink = sink;
+    --_depth;
+    return height + 1;
+}
+
+int ArchiveWalker::knownGroups(ObjectEntry cls, FoundNumber& number) {
+    switch (cls.family()) {
+        case ClassFamily::String:
+            text();
+            return 0;
+        case ClassFamily::Number:
+            return numberGroups(number);
+        case ClassFamily::Array:
+        case ClassFamily::Set:
+        case ClassFamily::Dictionary:
+            return cls.isDerived() ? 0 : collectionGroups(cls.family());
+        default:
+            return 0;
+    }
+}
+
+int ArchiveWalker::groups() {
+    int height = 0;
+    while (!atEndOfObject()) height = qMax(height, group());
+    return height;
+}
+
+int ArchiveWalker::group() {
+    return values(_items.groupType());
+}
+
+int ArchiveWalker::values(QByteArrayView type) {
+    _sink->beginGroup(type);
+    int height = 0;
+    TypeItem item;
+    while (takeTypeItem(type, item)) height = qMax(height, value(item));
+    _sink->endGroup();
+    return height;
+}
+
+int ArchiveWalker::value(const TypeItem& item) {
+    switch (item.code) {
+        case '@':
+            return object();
+        case '[':
+        case '{':
+            return list(item);
+        case 'f':
+            _sink->realFloat(_items.at.takeFloat());
+            break;
+        case 'd':
+            _sink->realDouble(_items.at.takeDouble());
+            break;
+        case '#': {
+            const quint32 cls = _items.classReference();
+            cls == noIndex ? _sink->nil('#') : _sink->classValue(cls);
+            break;
+        }
+        case '+':
+        case '*':
+        case ':':
+        case '%': {
+            const QByteArrayView text = item.code == '+'   ? _items.unsharedText()
+                                        : item.code == '*' ? _items.cString()
+                                                           : _items.sharedText("a selector", true);
+            text.isNull() ? _sink->nil(item.code) : _sink->bytes(item.code, text);
+            break;
+        }
+        default:
+            simpleInteger(item.code);
+    }
+    return 0;
+}
+
+void ArchiveWalker::simpleInteger(char code) {
+    const qint64 offset = _items.at.offset();
+    if (code == 'c') return _sink->integer(code, qint8(_items.at.take("a byte")));
+    if (code == 'C' || code == 'B') return _sink->integer(code, _items.at.take("a byte"));
+    const bool isSigned = code >= 'a';
+    qint64 value = 0;
+    bool fits = false;
+    if (isSigned) {
+        value = _items.at.takeSigned("an integer");
+        fits = value >= signedRange(code).least && value <= signedRange(code).most;
+    } else {
+        const quint64 wide = _items.at.takeUnsigned("an integer");
+        fits = wide <= unsignedMost(code);
+        value = qint64(wide);
+    }
+    if (!fits) {
+        failArchive(offset, u"an integer that fits type \"%1\""_s.arg(QLatin1Char(code)),
+                    isSigned ? QString::number(value) : QString::number(quint64(value)));
+    }
+    _sink->integer(code, value);
+}
+
+int ArchiveWalker::list(const TypeItem& item) {
+    if (item.code == '[' && (item.inner == "c" || item.inner == "C")) {
+        byteArray(item);
+        return 0;
+    }
+    _sink->beginList(item);
+    int height = 0;
+    const quint64 rounds = item.code == '[' ? item.count : 1;
+    if (item.code == '[' && rounds > quint64(_items.at.left())) {
+        failArchive(_items.at.offset(), u"an array of %1 elements"_s.arg(rounds),
+                    u"%1 bytes left"_s.arg(_items.at.left()));
+    }
+    for (quint64 i = 0; i < rounds; ++i) {
+        QByteArrayView rest = item.inner;
+        TypeItem inner;
+        while (takeTypeItem(rest, inner)) height = qMax(height, value(inner));
+    }
+    _sink->endList();
+    return height;
+}
+
+void ArchiveWalker::byteArray(const TypeItem& item) {
+    _sink->bytes('[', _items.at.takeBytes(item.count, "a byte array"));
+}
+
+int ArchiveWalker::numberGroups(FoundNumber& number) {
+    if (atEndOfObject()) return 0;
+    const QByteArrayView first = _items.groupType();
+    if (first != "*") return values(first);
+    const QByteArrayView code = _items.cString();
+    _sink->beginGroup(first);
+    code.isNull() ? _sink->nil('*') : _sink->bytes('*', code);
+    _sink->endGroup();
+    if (atEndOfObject()) return 0;
+    const QByteArrayView second = _items.groupType();
+    if (second == code) number = {numberKindOf(code), _items.at.offset()};
+    return values(second);
+}
+
+QByteArrayView ArchiveWalker::text() {
+    _items.groupOf('+', "a text");
+    const qint64 offset = _items.at.offset();
+    const QByteArrayView text = _items.unsharedText();
+    if (text.isNull()) failArchive(offset, "a text", describeByte(archivetag::nil));
+    if (!QUtf8StringView(text.data(), text.size()).isValidUtf8()) {
+        failArchive(offset, "a text in UTF-8", u"other bytes"_s);
+    }
+    _sink->beginGroup("+");
+    _sink->bytes('+', text);
+    _sink->endGroup();
+    return text;
+}
+
+int ArchiveWalker::collectionGroups(ClassFamily family) {
+    const char code = family == ClassFamily::Set ? 'I' : 'i';
+    _items.groupOf(code, "the count of a collection");
+    const quint64 elements = _items.takeCount(family);
+    _sink->beginGroup(QByteArrayView(&code, 1));
+    _sink->integer(code, qint64(family == ClassFamily::Dictionary ? elements / 2 : elements));
+    _sink->endGroup();
+    int height = 0;
+    for (quint64 i = 0; i < elements; ++i) {
+        _items.groupOf('@', "an element of a collection");
+        const ObjectHead head = _items.objectHead();
+        if (head.what == ObjectHead::Nil) {
+            failArchive(head.offset, "an element of a collection", describeByte(archivetag::nil));
+        }
+        _sink->beginGroup("@");
+        height = qMax(height, objectAfterHead(head));
+        _sink->endGroup();
+    }
+    return height;
+}
+
+}  // namespace sargan

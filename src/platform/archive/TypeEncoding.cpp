@@ -1,0 +1,125 @@
+#include "platform/archive/TypeEncoding.h"
+
+#include "platform/archive/ByteCursor.h"
+
+using namespace Qt::StringLiterals;
+
+namespace sargan {
+
+namespace {
+
+constexpr int mostLevels = 16;
+constexpr quint64 mostElements = quint64(1) << 40;
+// Room for struct names: a type may have this many letters more than the bytes that it describes at least.
+constexpr quint64 freeLetters = 64;
+constexpr quint64 lettersPerByte = 32;
+
+bool isSimple(char code) {
+    return code && std::strchr("cCBsSiIlLqQfd@#*+:%", code);
+}
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+class TypeChecker {
+public:
+    TypeChecker(QByteArrayView type, qint64 offset) : _type(type), _offset(offset) {}
+
+    void check() {
+        if (_type.isEmpty()) fail("it is empty");
+        quint64 least = 0;
+        while (_at < _type.size()) least = sum(least, item(0));
+        if (quint64(_type.size()) > freeLetters + lettersPerByte * least)
+            fail("it describes hardly any value");
+    }
+
+private:
+    [[noreturn]] void fail(const char* why) const {
+        const QString text = QString::fromLatin1(_type.first(qMin(_type.size(), qsizetype(80))));
+        failArchive(_offset, "a type encoding", u"\"%1\", and %2"_s.arg(text, QLatin1StringView(why)));
+    }
+
+    char next() const { return _at < _type.size() ? _type[_at] : '\0'; }
+
+    quint64 sum(quint64 a, quint64 b) const {
+        if (a + b > mostElements) fail("its size overflows");
+        return a + b;
+    }
+
+    /// Steps over one item and returns how many bytes its value takes at least.
+    quint64 item(int level) {
+        if (level > mostLevels) fail("it is nested too deeply");
+        const char code = next();
+        ++_at;
+        if (code == '[') return array(level);
+        if (code == '{') return structure(level);
+        if (!isSimple(code)) fail("it has an unknown letter or unbalanced brackets");
+        return 1;
+    }
+
+    quint64 array(int level) {
+        if (!isDigit(next())) fail("an array has no length");
+        quint64 count = 0;
+        for (; isDigit(next()); ++_at) {
+            count = count * 10 + quint64(next() - '0');
+            if (count > mostElements) fail("an array length overflows");
+        }
+        const quint64 element = item(level + 1);
+        if (next() != ']') fail("its brackets are unbalanced");
+        ++_at;
+        if (element == 0) fail("the elements of an array hold nothing");
+        if (count > mostElements / element) fail("an array length overflows");
+        return count * element;
+    }
+
+    quint64 structure(int level) {
+        while (next() && !std::strchr("={}[]", next())) ++_at;
+        if (next() != '=') fail("a struct has no fields");
+        ++_at;
+        if (next() == '}') fail("a struct has no fields");
+        quint64 least = 0;
+        while (next() != '}') least = sum(least, item(level + 1));
+        ++_at;
+        return least;
+    }
+
+    QByteArrayView _type;
+    qint64 _offset;
+    qsizetype _at = 0;
+};
+
+/// Where the bracket that `text` begins with is closed.
+qsizetype closingBracket(QByteArrayView text) {
+    int open = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == '[' || text[i] == '{') ++open;
+        if ((text[i] == ']' || text[i] == '}') && --open == 0) return i;
+    }
+    return text.size() - 1;
+}
+
+}  // namespace
+
+void checkTypeEncoding(QByteArrayView type, qint64 offset) {
+    TypeChecker(type, offset).check();
+}
+
+bool takeTypeItem(QByteArrayView& rest, TypeItem& item) {
+    if (rest.isEmpty()) return false;
+    item = {rest[0], {}, 0};
+    qsizetype length = 1;
+    if (item.code == '[' || item.code == '{') {
+        const qsizetype close = closingBracket(rest);
+        qsizetype start = 1;
+        if (item.code == '{') start = rest.indexOf('=') + 1;
+        for (; item.code == '[' && isDigit(rest[start]); ++start) {
+            item.count = item.count * 10 + quint64(rest[start] - '0');
+        }
+        item.inner = rest.sliced(start, close - start);
+        length = close + 1;
+    }
+    rest = rest.sliced(length);
+    return true;
+}
+
+}  // namespace sargan

@@ -1,0 +1,113 @@
+#include "platform/desk/UserDefaults.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include "platform/files/SafeFile.h"
+#include "platform/text/Message.h"
+#include "platform/text/Numbers.h"
+
+namespace sargan {
+
+namespace {
+
+QString settingsFile(const QString& folder) { return folder + QStringLiteral("/settings.json"); }
+
+}  // namespace
+
+UserDefaults::UserDefaults(const QString& folder) : _folder(folder) {
+    const QString file = settingsFile(folder);
+    if (!QFileInfo::exists(file)) return;
+    try {
+        QJsonParseError error;
+        const QJsonDocument document = QJsonDocument::fromJson(readFile(file), &error);
+        if (document.isObject()) {
+            _stored = document.object();
+            return;
+        }
+        const QString aside = file + QStringLiteral(".damaged");
+        QFile::remove(aside);
+        const bool moved = QFile::rename(file, aside);
+        _problem = QStringLiteral("%1: the settings could not be read (byte %2: %3); %4")
+                       .arg(file)
+                       .arg(error.offset)
+                       .arg(error.errorString(), moved ? QStringLiteral("they were set aside as %1").arg(aside)
+                                                       : QStringLiteral("they will be replaced"));
+    } catch (const ReadError& error) {
+        _problem = error.sentence();
+    }
+}
+
+QJsonValue UserDefaults::value(const QString& key) const {
+    const auto found = _stored.constFind(key);
+    return found != _stored.constEnd() ? *found : _registered.value(key);
+}
+
+QStringList UserDefaults::keys() const {
+    QStringList keys = _stored.keys() + _registered.keys();
+    keys.sort();
+    keys.removeDuplicates();
+    return keys;
+}
+
+void UserDefaults::store(const QString& key, const QJsonValue& value) {
+    if (_stored.contains(key) && _stored.value(key) == value) return;
+    _stored.insert(key, value);
+    write();
+}
+
+void UserDefaults::remove(const QString& key) {
+    if (!_stored.contains(key)) return;
+    _stored.remove(key);
+    write();
+}
+
+void UserDefaults::write() {
+    if (_folder.isEmpty()) return;
+    _problem.clear();
+    QDir().mkpath(_folder);
+    try {
+        saveFile(settingsFile(_folder), QJsonDocument(_stored).toJson());
+    } catch (const SaveError& error) {
+        _problem = error.sentence();
+    }
+}
+
+bool UserDefaults::boolean(const QString& key) const {
+    const QJsonValue found = value(key);
+    if (found.isString()) {
+        const QString word = found.toString().trimmed().toLower();
+        return word == QLatin1String("true") || word == QLatin1String("yes") || leadingInteger(word) != 0;
+    }
+    return found.isBool() ? found.toBool() : found.toDouble() != 0;
+}
+
+int UserDefaults::integer(const QString& key) const {
+    const QJsonValue found = value(key);
+    if (found.isString()) return leadingInteger(found.toString());
+    return leadingInteger(QString::number(found.isBool() ? found.toBool() : found.toDouble(), 'f', 3));
+}
+
+double UserDefaults::number(const QString& key) const {
+    const QJsonValue found = value(key);
+    if (found.isString()) return leadingNumber(found.toString());
+    return found.isBool() ? found.toBool() : found.toDouble();
+}
+
+QString UserDefaults::text(const QString& key) const {
+    const QJsonValue found = value(key);
+    if (found.isString()) return found.toString();
+    if (found.isBool()) return found.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+    return found.isDouble() ? shortest(found.toDouble()) : QString();
+}
+
+QStringList UserDefaults::list(const QString& key) const {
+    QStringList texts;
+    const QJsonArray array = value(key).toArray();
+    for (const QJsonValue& entry : array) texts << entry.toString();
+    return texts;
+}
+
+}  // namespace sargan

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QString>
+#include <QStringList>
+
+namespace sargan {
+
+/// The per-user settings: key -> JSON value, in two layers. A registered value applies while the user has
+/// not stored one. Stored values live in one file of the settings folder, written whole through the safe
+/// file module at every change; without a folder (tests) they live in memory only.
+class UserDefaults {
+public:
+    UserDefaults() = default;
+    /// Reads the folder's settings file. A damaged file is set aside beside it and `problem` says so; the
+    /// program then starts with the registered values.
+    explicit UserDefaults(const QString& folder);
+
+    const QString& folder() const { return _folder; }
+    /// What went wrong when the settings were read or last written, as a sentence; empty when nothing did.
+    const QString& problem() const { return _problem; }
+
+    /// Stored, else registered, else undefined.
+    QJsonValue value(const QString& key) const;
+    QJsonValue stored(const QString& key) const { return _stored.value(key); }
+    QJsonValue registered(const QString& key) const { return _registered.value(key); }
+    bool contains(const QString& key) const { return !value(key).isUndefined(); }
+    QStringList keys() const;  ///< of both layers, sorted
+
+    void registerDefault(const QString& key, const QJsonValue& value) { _registered.insert(key, value); }
+    void store(const QString& key, const QJsonValue& value);
+    void remove(const QString& key);
+
+    /// Loose readings, as a settings store gives them: booleans from numbers and words, numbers from texts
+    /// (leading number, else 0), texts from numbers.
+    bool boolean(const QString& key) const;
+    int integer(const QString& key) const;
+    double number(const QString& key) const;
+    QString text(const QString& key) const;
+    QStringList list(const QString& key) const;
+
+private:
+    void write();
+
+    QString _folder;
+    QString _problem;
+    QJsonObject _stored;
+    QJsonObject _registered;
+};
+
+}  // namespace sargan

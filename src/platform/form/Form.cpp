@@ -1,0 +1,146 @@
+#include "platform/form/Form.h"
+
+#include "platform/files/SafeFile.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/Strings.h"
+
+namespace sargan {
+
+namespace {
+
+constexpr bool isTyped(ControlKind kind) {
+    return kind == ControlKind::Text || kind == ControlKind::Number || kind == ControlKind::Area ||
+           kind == ControlKind::Combo || kind == ControlKind::Caption;
+}
+
+int wholeNumber(const QString& control, const QString& text) {
+    bool fine = false;
+    const int value = text.toInt(&fine);
+    if (!fine) throw ControlValueError(control, QStringLiteral("\"%1\" is not a whole number").arg(text));
+    return value;
+}
+
+}  // namespace
+
+Form::Form(std::span<const ControlSpec> specs, QObject* parent)
+    : QObject(parent), _specs(specs.begin(), specs.end()), _states(specs.size()) {
+    _index.reserve(qsizetype(specs.size()) * 2);
+    for (int i = 0; i < count(); ++i) _index.insert(QString::fromLatin1(spec(i).name), i);
+}
+
+int Form::find(QStringView name) const {
+    const auto found = _index.find(name.toString());
+    if (found == _index.end()) throw UnknownControlError(name.toString());
+    return *found;
+}
+
+double Form::number(int control) const {
+    return isTyped(spec(control).kind) ? leadingNumber(state(control).text) : state(control).tag;
+}
+
+int Form::integer(int control) const {
+    return isTyped(spec(control).kind) ? leadingInteger(state(control).text) : state(control).tag;
+}
+
+template <typename T>
+void Form::assign(int control, T ControlState::*member, const T& value) {
+    T& held = _states[std::size_t(control)].*member;
+    if (held == value) return;
+    held = value;
+    Q_EMIT changed(control);
+}
+
+void Form::setText(int control, const QString& text) { assign(control, &ControlState::text, text); }
+
+void Form::setInteger(int control, int value) {
+    if (isTyped(spec(control).kind))
+        setText(control, QString::number(value));
+    else
+        setTag(control, value);
+}
+
+void Form::setTag(int control, int tag) { assign(control, &ControlState::tag, tag); }
+
+void Form::setDate(int control, const Moment& date) { assign(control, &ControlState::date, date); }
+
+void Form::setImage(int control, const QByteArray& bytes) { assign(control, &ControlState::image, bytes); }
+
+void Form::setColor(int control, const QColor& color) { assign(control, &ControlState::color, color); }
+
+void Form::setEnabled(int control, bool enabled) { assign(control, &ControlState::enabled, enabled); }
+
+void Form::setHidden(int control, bool hidden) { assign(control, &ControlState::hidden, hidden); }
+
+void Form::fill(int control, const QString& value) {
+    const QString name = QString::fromLatin1(spec(control).name);
+    switch (spec(control).kind) {
+        case ControlKind::Caption: throw ControlValueError(name, QStringLiteral("is shown only, it takes no value"));
+        case ControlKind::Date:
+        case ControlKind::Time: {
+            const Moment date = Moment::fromIso(value);
+            if (!date.isPresent() && !value.isEmpty())
+                throw ControlValueError(name, QStringLiteral("\"%1\" is not a date or time such as 2016-06-07, 14:30 "
+                                                             "or 2016-06-07T14:30:00")
+                                                  .arg(value));
+            setDate(control, date);
+            break;
+        }
+        case ControlKind::PopUp:
+        case ControlKind::Slider: setTag(control, wholeNumber(name, value)); break;
+        case ControlKind::Switch: {
+            const int state = wholeNumber(name, value);
+            if (state != 0 && state != 1) throw ControlValueError(name, QStringLiteral("a switch takes 0 or 1"));
+            setTag(control, state);
+            break;
+        }
+        case ControlKind::Image: setImage(control, value.isEmpty() ? QByteArray() : readFile(value)); break;
+        case ControlKind::Color: {
+            const QColor color = QColor::fromString(value);
+            if (!color.isValid()) throw ControlValueError(name, QStringLiteral("\"%1\" is not a colour").arg(value));
+            setColor(control, color);
+            break;
+        }
+        default: setText(control, value);
+    }
+    endEditing(control);
+}
+
+void Form::endEditing(int control) {
+    if (onEndEditing) onEndEditing(control);
+}
+
+void Form::press(const QString& action) {
+    const auto found = _actions.find(action);
+    if (found == _actions.end()) throw UnknownControlError(action);
+    (*found)();
+}
+
+QStringList Form::actionNames() const {
+    QStringList names = _actions.keys();
+    names.sort();
+    return names;
+}
+
+QString Form::shownText(int control, const Strings& strings) const {
+    const ControlState& shown = state(control);
+    switch (spec(control).kind) {
+        case ControlKind::PopUp:
+            for (const MenuItem& item : spec(control).menu)
+                if (item.tag == shown.tag) return strings.text(item.words);
+            return {};
+        case ControlKind::Date: return shown.date.local().toString(QStringLiteral("dd/MM/yyyy"));
+        case ControlKind::Time: return shown.date.local().toString(QStringLiteral("HH:mm"));
+        case ControlKind::Switch:
+        case ControlKind::Slider: return QString::number(shown.tag);
+        case ControlKind::Image:
+        case ControlKind::Color: return {};
+        default: return shown.text;
+    }
+}
+
+void Form::setFocus(int control) {
+    _focus = control;
+    Q_EMIT focusWanted(control);
+}
+
+}  // namespace sargan

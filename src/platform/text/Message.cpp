@@ -1,0 +1,103 @@
+#include "platform/text/Message.h"
+
+#include <QLocale>
+#include <cmath>
+
+namespace sargan {
+
+namespace {
+
+struct Placeholder {
+    qsizetype begin = 0;
+    qsizetype end = 0;   ///< one past its last character
+    int width = 0;
+    int precision = -1;  ///< none
+    QChar conversion;    ///< '%' for an escaped per cent sign, null for a malformed one
+};
+
+int readNumber(QStringView format, qsizetype& at) {
+    int number = 0;
+    while (at < format.size() && format[at].isDigit() && number < 1000)
+        number = number * 10 + format[at++].digitValue();
+    return number;
+}
+
+Placeholder readPlaceholder(QStringView format, qsizetype at) {
+    Placeholder found;
+    found.begin = at++;
+    found.width = readNumber(format, at);
+    if (at < format.size() && format[at] == u'.') found.precision = readNumber(format, ++at);
+    while (at < format.size() && format[at] == u'l') ++at;
+    if (at < format.size() && QStringView(u"diuf@%").contains(format[at])) found.conversion = format[at++];
+    found.end = found.conversion.isNull() ? found.begin + 1 : at;
+    return found;
+}
+
+bool takesArgument(const Placeholder& placeholder) {
+    return !placeholder.conversion.isNull() && placeholder.conversion != u'%';
+}
+
+QString plain(const FormatArgument& argument) {
+    if (auto whole = std::get_if<qint64>(&argument)) return QString::number(*whole);
+    if (auto real = std::get_if<double>(&argument)) return shortest(*real);
+    return std::get<QString>(argument);
+}
+
+QString shown(const Placeholder& placeholder, const FormatArgument& argument) {
+    const auto* real = std::get_if<double>(&argument);
+    const bool fixed = placeholder.conversion == u'f' && real && std::isfinite(*real);
+    const QString text =
+        fixed ? QString::number(*real, 'f', placeholder.precision < 0 ? 6 : placeholder.precision) : plain(argument);
+    return text.rightJustified(placeholder.width);
+}
+
+}  // namespace
+
+std::vector<ArgumentKind> placeholdersOf(QStringView format) {
+    std::vector<ArgumentKind> kinds;
+    for (qsizetype at = 0; (at = format.indexOf(u'%', at)) >= 0;) {
+        const Placeholder found = readPlaceholder(format, at);
+        if (takesArgument(found))
+            kinds.push_back(found.conversion == u'@'   ? ArgumentKind::Text
+                            : found.conversion == u'f' ? ArgumentKind::Real
+                                                       : ArgumentKind::Whole);
+        at = found.end;
+    }
+    return kinds;
+}
+
+QString fillFormat(QStringView format, std::span<const FormatArgument> arguments) {
+    QString filled;
+    std::size_t next = 0;
+    qsizetype at = 0;
+    for (qsizetype sign; (sign = format.indexOf(u'%', at)) >= 0;) {
+        filled += format.sliced(at, sign - at);
+        const Placeholder found = readPlaceholder(format, sign);
+        if (found.conversion == u'%')
+            filled += u'%';
+        else if (takesArgument(found) && next < arguments.size())
+            filled += shown(found, arguments[next++]);
+        else
+            filled += format.sliced(found.begin, found.end - found.begin);
+        at = found.end;
+    }
+    filled += format.sliced(at);
+    return filled;
+}
+
+QString shortest(double value) {
+    if (std::isnan(value)) return QStringLiteral("nan");
+    if (std::isinf(value)) return value < 0 ? QStringLiteral("-inf") : QStringLiteral("inf");
+    return QString::number(value, 'g', QLocale::FloatingPointShortest);
+}
+
+QString shortest(float value) {
+    if (!std::isfinite(value)) return shortest(double(value));
+    for (int digits = 6; digits < 9; ++digits) {
+        const QString text = QString::number(double(value), 'g', digits);
+        if (text.toFloat() == value) return text;
+    }
+    return QString::number(double(value), 'g', 9);
+}
+
+}  // namespace sargan

@@ -1,0 +1,39 @@
+#include "platform/ui/UndoGate.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+namespace sargan {
+
+void UndoGate::guard(QWidget* field) {
+    field->installEventFilter(new UndoGate(field));
+}
+
+bool UndoGate::canUndo(const QWidget* field) {
+    if (const auto* line = qobject_cast<const QLineEdit*>(field))
+        return !line->isReadOnly() && line->isUndoAvailable();
+    if (const auto* area = qobject_cast<const QPlainTextEdit*>(field))
+        return !area->isReadOnly() && area->document()->isUndoAvailable();
+    return false;
+}
+
+bool UndoGate::canRedo(const QWidget* field) {
+    if (const auto* line = qobject_cast<const QLineEdit*>(field))
+        return !line->isReadOnly() && line->isRedoAvailable();
+    if (const auto* area = qobject_cast<const QPlainTextEdit*>(field))
+        return !area->isReadOnly() && area->document()->isRedoAvailable();
+    return false;
+}
+
+bool UndoGate::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::ShortcutOverride) return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const auto* field = qobject_cast<QWidget*>(watched);
+    const bool pass = (key->matches(QKeySequence::Undo) && !canUndo(field)) ||
+                      (key->matches(QKeySequence::Redo) && !canRedo(field));
+    if (pass) event->ignore();
+    return pass;
+}
+
+}  // namespace sargan
