@@ -77,8 +77,8 @@ void read(const QJsonValue& json, const QString& path, ListKind, Int& field) {
 void read(const QJsonValue& json, const QString& path, ListKind, Float& field) {
     const auto value = readNumber(json);
     if (!value) wrong(path, "a number");
-    if (std::isfinite(*value) && std::abs(*value) > double(std::numeric_limits<float>::max()))
-        wrong(path, "a number that 32 bits can hold");
+    // 3.4028235e38 is how the largest float is written, though it is a little more.
+    if (std::isfinite(*value) && std::isinf(Float(*value))) wrong(path, "a number that 32 bits can hold");
     field = Float(*value);
 }
 

@@ -1,6 +1,6 @@
 #include "platform/text/Message.h"
 
-#include <QLocale>
+#include <charconv>
 #include <cmath>
 
 namespace sargan {
@@ -85,19 +85,25 @@ QString fillFormat(QStringView format, std::span<const FormatArgument> arguments
     return filled;
 }
 
-QString shortest(double value) {
+namespace {
+
+template <typename Real>
+QString shortestOf(Real value) {
     if (std::isnan(value)) return QStringLiteral("nan");
     if (std::isinf(value)) return value < 0 ? QStringLiteral("-inf") : QStringLiteral("inf");
-    return QString::number(value, 'g', QLocale::FloatingPointShortest);
+    // Written out in full where people write numbers in full, with an exponent beyond.
+    const Real size = std::abs(value);
+    const bool isPlain = size == 0 || (size >= Real(1e-5) && size < Real(1e15));
+    char digits[64];
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), value,
+                                   isPlain ? std::chars_format::fixed : std::chars_format::scientific);
+    return QString::fromLatin1(digits, end.ptr - digits);
 }
 
-QString shortest(float value) {
-    if (!std::isfinite(value)) return shortest(double(value));
-    for (int digits = 6; digits < 9; ++digits) {
-        const QString text = QString::number(double(value), 'g', digits);
-        if (text.toFloat() == value) return text;
-    }
-    return QString::number(double(value), 'g', 9);
-}
+}  // namespace
+
+QString shortest(double value) { return shortestOf(value); }
+
+QString shortest(float value) { return shortestOf(value); }
 
 }  // namespace sargan

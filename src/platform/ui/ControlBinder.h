@@ -58,10 +58,12 @@ private:
 };
 
 /// The binder for a control's kind, its widget made as a child of `parent` and named as the control.
-std::unique_ptr<ControlBinder> makeBinder(Form& form, int control, const Desk& desk, const FormChoosers& choosers,
-                                          QWidget* parent);
+std::unique_ptr<ControlBinder> makeBinder(Form& form, int control, const Desk& desk,
+                                          const FormChoosers& choosers, QWidget* parent);
 
 /// A text that is there, also when it is empty: what a person leaves empty is empty, not absent.
-inline QString present(const QString& text) { return text.isNull() ? QStringLiteral("") : text; }
+inline QString present(const QString& text) {
+    return text.isNull() ? QStringLiteral("") : text;
+}
 
 }  // namespace sargan

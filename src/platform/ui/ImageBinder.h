@@ -10,7 +10,8 @@ namespace sargan {
 /// kept all the same.
 class ImageBinder : public ControlBinder {
 public:
-    ImageBinder(Form& form, int control, const Strings& strings, const FormChoosers& choosers, QWidget* parent);
+    ImageBinder(Form& form, int control, const Strings& strings, const FormChoosers& choosers,
+                QWidget* parent);
     QWidget* widget() const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 

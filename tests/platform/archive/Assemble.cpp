@@ -16,7 +16,9 @@ QByteArray assemble(const char* spelled) {
     return bytes;
 }
 
-QByteArray archiveOf(const QByteArray& body) { return assemble("04 0b 'streamtyped' 81 e8 03") + body; }
+QByteArray archiveOf(const QByteArray& body) {
+    return assemble("04 0b 'streamtyped' 81 e8 03") + body;
+}
 
 QByteArray rootArray(const char* count, const QByteArray& elements) {
     return archiveOf(assemble("84 01 '@' 84 84 84 0e 'NSMutableArray' 00 84 84 07 'NSArray' 00"
@@ -29,7 +31,8 @@ QByteArray recordOf(const QByteArray& groups) {
 }
 
 QByteArray firstNumber(const char* count, char type) {
-    const QByteArray letter = type == 'i' ? assemble("84 96 96") : assemble("84 84 01") + type + assemble("9b");
+    const QByteArray letter =
+        type == 'i' ? assemble("84 96 96") : assemble("84 84 01") + type + assemble("9b");
     return assemble("92 84 93 96") + assemble(count) +
            assemble("92 84 84 84 08 'NSNumber' 00 84 84 07 'NSValue' 00 95 84 01 '*'") + letter;
 }

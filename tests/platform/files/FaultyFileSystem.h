@@ -6,7 +6,8 @@
 #include "platform/files/FileSystem.h"
 
 /// The real file system with faults: which call fails, and with which errno, is decided by `fault` (0: the
-/// call is made). A failing close still closes, as the system does.
+/// call is made). A failing close still closes, as the system does. Flushing to the disk is only counted: a
+/// test cannot see its effect, and thousands of saves would wait for it.
 class FaultyFileSystem : public sargan::FileSystem {
 public:
     struct Call {

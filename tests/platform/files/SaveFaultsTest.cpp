@@ -81,9 +81,17 @@ public:
         return contradictionOfBackup(outcome);
     }
 
+    /// Another program saves another file in the same folder.
+    void saveAnother() const {
+        FaultyFileSystem sound;
+        saveFile(_folder.path(u"place/another"_s), "its", {.keepBackup = true}, sound);
+    }
+
     /// A save without faults, which also removes what the faults kept from being removed.
     void saveAgain() {
-        saveFile(_folder.path(u"place/dives"_s), "after", {.keepBackup = _scenario.options.keepBackup});
+        FaultyFileSystem sound;
+        const SaveOptions options{.keepBackup = _scenario.options.keepBackup};
+        saveFile(_folder.path(u"place/dives"_s), "after", options, sound);
     }
 
     FaultyFileSystem system;
@@ -186,6 +194,23 @@ private Q_SLOTS:
             QVERIFY2(outcome == Outcome::Saved, QByteArray::number(failing));
             QCOMPARE(attempt.contradiction(outcome), QString());
             if (attempt.injected == 0) break;
+        }
+    }
+
+    void savesInTheSameFolderDisturbNoCall_data() { addScenarios({0}); }
+    void savesInTheSameFolderDisturbNoCall() {
+        QFETCH(QString, scenario);
+        bool disturbed = true;
+        for (int at = 1; disturbed; ++at) {
+            disturbed = false;
+            Attempt attempt(scenario);
+            const Outcome outcome = attempt.run([&](const FaultyFileSystem::Call& call) {
+                disturbed = disturbed || call.number == at;
+                if (call.number == at) attempt.saveAnother();
+                return 0;
+            });
+            QVERIFY2(outcome == Outcome::Saved, QByteArray::number(at));
+            QCOMPARE(attempt.contradiction(outcome), QString());
         }
     }
 

@@ -1,0 +1,4 @@
+#include "ArchiveTests.h"
+int runArchiveMemoryTest(int, char**) {
+    return 0;
+}
