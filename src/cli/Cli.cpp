@@ -53,8 +53,8 @@ bool isCommand(const QStringList& arguments) {
     try {
         const GlobalOptions options = GlobalOptions::take(arguments);
         if (options.help || options.version) return true;
-        return !options.rest.isEmpty() &&
-               (findCommand(options.rest.first()) || options.rest.first() == QLatin1String("man"));
+        const QString name = options.rest.value(0);
+        return findCommand(name) || name == QLatin1String("man") || name == QLatin1String("file-format");
     } catch (const UsageError&) {
         return true;
     }
@@ -71,6 +71,8 @@ int run(const QStringList& arguments) {
             print(command ? helpFor(*command) : overallHelp());
         } else if (name == QLatin1String("man")) {
             print(manualPage());
+        } else if (name == QLatin1String("file-format")) {
+            print(fileFormatPage());
         } else if (command) {
             return runCommand(*command, options);
         } else {

@@ -29,5 +29,7 @@ std::span<const Command> logbookCommands();
 QString overallHelp();
 QString helpFor(const Command& command);
 QString manualPage();
+/// docs/file-format.md, printed from the slot tables.
+QString fileFormatPage();
 
 }  // namespace sargan::cli

@@ -20,8 +20,7 @@ void Document::setReadOnly(bool readOnly) {
     Q_EMIT fileChanged();
 }
 
-void Document::readFrom(const QString& path) {
-    const ReadResult file = readStampedFile(path);
+void Document::takeFile(const QString& path, const ReadResult& file) {
     try {
         readBytes(file.bytes, _kind.currentTypeName(_desk));
     } catch (const ArchiveError& error) {

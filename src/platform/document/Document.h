@@ -46,7 +46,9 @@ public:
     void setReadOnly(bool readOnly);
 
     /// Reads the file whole. Throws ReadError, ArchiveError or DocumentError; then this document is as it was.
-    void readFrom(const QString& path);
+    void readFrom(const QString& path) { takeFile(path, readStampedFile(path)); }
+    /// The same from a file already read.
+    void takeFile(const QString& path, const ReadResult& file);
     /// The same from bytes already read, under this type name.
     void readBytes(const QByteArray& bytes, const QString& type);
     /// Writes to the document's own file, or to another one that becomes its own. Throws SaveError (with

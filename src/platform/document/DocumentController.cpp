@@ -47,11 +47,11 @@ Document* DocumentController::newDocument(const DocumentKind& kind) {
 }
 
 std::unique_ptr<Document> DocumentController::read(const QString& path) const {
-    const QByteArray bytes = readFile(path);
+    const ReadResult file = readStampedFile(path);
     try {
-        const DocumentKind& kind = _kinds.forContent(bytes, path);
+        const DocumentKind& kind = _kinds.forContent(file.bytes, path);
         auto document = kind.create(kind, _desk);
-        document->readFrom(path);
+        document->takeFile(path, file);
         return document;
     } catch (const ArchiveError& error) {
         throw DocumentError(QStringLiteral("%1: %2").arg(path, error.sentence()));

@@ -10,12 +10,14 @@ Strings::~Strings() = default;
 
 void Strings::setLanguage(Language language) {
     _language = language;
-    _catalogue.reset();
+    _catalogues.clear();
     if (language == Language::Keys) return;
-    const QString file = language == Language::French ? QStringLiteral(":/i18n/sargan_fr.qm")
-                                                      : QStringLiteral(":/i18n/sargan_en.qm");
-    auto catalogue = std::make_unique<QTranslator>();
-    if (catalogue->load(file)) _catalogue = std::move(catalogue);
+    const QString ending = language == Language::French ? QStringLiteral("_fr.qm") : QStringLiteral("_en.qm");
+    for (const char* subject : {"sargan", "calculators"}) {
+        auto catalogue = std::make_unique<QTranslator>();
+        if (catalogue->load(QStringLiteral(":/i18n/") + QLatin1String(subject) + ending))
+            _catalogues.push_back(std::move(catalogue));
+    }
 }
 
 std::optional<Strings::Language> Strings::languageNamed(const QString& name) {
@@ -31,8 +33,8 @@ Strings::Language Strings::systemLanguage() {
 
 QString Strings::lookup(const char* key, const char* fallback, const char* table) const {
     if (_language == Language::Keys) return QString::fromUtf8(key);
-    if (_catalogue) {
-        const QString text = _catalogue->translate(table, key);
+    for (const auto& catalogue : _catalogues) {
+        const QString text = catalogue->translate(table, key);
         if (!text.isNull()) return text;
     }
     return QString::fromUtf8(fallback);

@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
-#include <map>
 #include <memory>
+#include <vector>
 
 #include "platform/text/Message.h"
 
@@ -55,7 +55,7 @@ private:
                    std::span<const FormatArgument> arguments) const;
 
     Language _language = Language::English;
-    std::unique_ptr<QTranslator> _catalogue;
+    std::vector<std::unique_ptr<QTranslator>> _catalogues;
 };
 
 /// Whether a format's placeholders take arguments of these kinds, in order. `%@` takes anything.
