@@ -1,12 +1,10 @@
 // A whole logbook read and written, against the floor: reading the file's bytes and copying the numbers.
 //   bench_logbook [FILE | DIVES [SAMPLES]]
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 #include <cstring>
 #include <random>
 
@@ -89,21 +87,20 @@ void copyNumbers(const std::vector<char>& from, std::size_t block) {
     use(copies);
 }
 
-/// Peak memory of another process that only reads the file.
+/// What another process needs at its peak to read the file, beyond what it has when it starts.
 double peakWhileReading(const QString& path) {
-    int ends[2];
-    if (pipe(ends) != 0) return 0;
-    if (fork() == 0) {
-        const QByteArray bytes = readFile(path);
-        const Records<Plongee> records = readRecords(bytes, plongeeClass());
-        const double peak = memory("VmHWM");
-        if (write(ends[1], &peak, sizeof peak) != sizeof peak) _exit(1);
-        _exit(0);
-    }
-    double peak = 0;
-    if (read(ends[0], &peak, sizeof peak) != sizeof peak) peak = 0;
-    wait(nullptr);
-    return peak;
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--peak"), path});
+    child.waitForFinished(-1);
+    return child.readAllStandardOutput().trimmed().toDouble();
+}
+
+int printPeak(const QString& path) {
+    const double before = memory("VmHWM");
+    const Records<Plongee> records = readRecords(readFile(path), plongeeClass());
+    use(records);
+    std::printf("%.0f\n", memory("VmHWM") - before);
+    return 0;
 }
 
 }  // namespace
@@ -111,6 +108,7 @@ double peakWhileReading(const QString& path) {
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("--peak")) return printPeak(arguments.value(2));
     const bool isFile = QFileInfo(arguments.value(1)).isFile();
     const QString path = isFile ? arguments[1] : QDir::tempPath() + QStringLiteral("/sargan-bench.carnet");
     if (!isFile) {
@@ -119,8 +117,7 @@ int main(int argc, char** argv) {
         saveFile(path, writeRecords(makeLogbook(dives, samples), plongeeClass()));
     }
     const double size = double(QFileInfo(path).size());
-    const double baseline = memory("VmRSS");
-    const double peak = peakWhileReading(path) - baseline;
+    const double peak = peakWhileReading(path);
 
     constexpr int runs = 5;
     const QByteArray bytes = readFile(path);
