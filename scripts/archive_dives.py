@@ -9,7 +9,7 @@ import typedstream as ts
 from plongee import PONIES, PROFILE, seconds_of
 
 Values = dict[str, Any]
-Archive = tuple[str, bytes, dict]
+Archive = tuple[str, bytes, dict | None]
 
 LONG_TEXT = "Descente le long du tombant, puis retour par le canyon à 18 m. " * 6
 VERY_LONG_TEXT = "Journal de bord. " * 2000  # its length takes four bytes
@@ -238,19 +238,23 @@ def unknown_objects_dive(version: int, number: int) -> Values:
 
 def _logbook(
     name: str, version: int, dives: list[Values], policy: str = "current", again: int | None = None
-) -> Archive:
-    """One archive and its expectation. With `again`, the dive of that index stands a second time at the end."""
+) -> Iterator[Archive]:
+    """One archive and its expectation, and what becomes of it when it is saved again by the program. With
+    `again`, the dive of that index stands a second time at the end."""
     records = [plongee.record(values, version) for values in dives]
+    saved = [plongee.record(plongee.resaved(values, version)) for values in dives]
     decoded = [plongee.expected(values, version) for values in dives]
     if again is not None:
         records.append(records[again])
         decoded.append(decoded[again])
+        saved.append(saved[again])
     expectation = {"type": plongee.DOCUMENT_TYPE, "class": plongee.CLASS}
     expectation |= {"version": version if records else None, "records": decoded}
-    return f"{name}.carnet", ts.encode(ts.array(records), policy), expectation
+    yield f"{name}.carnet", ts.encode(ts.array(records), policy), expectation
+    yield f"resaved-{name}.carnet", ts.encode(ts.array(saved)), None
 
 
-def _old_logbook(version: int, policy: str) -> Archive:
+def _old_logbook(version: int, policy: str) -> Iterator[Archive]:
     dives = [
         pony_dive(version, 0, [12, 7, 3, 200, 201, 202, 50, 51, 52]),
         pony_dive(version, 1, [0] * 9),
@@ -279,11 +283,11 @@ def _current_dives(version: int) -> list[Values]:
 
 
 def logbooks() -> Iterator[Archive]:
-    yield _logbook("plongee-v27", 27, _current_dives(27), again=0)
-    yield _logbook("plongee-v27-unmerged", 27, _current_dives(27), "plain", again=0)
+    yield from _logbook("plongee-v27", 27, _current_dives(27), again=0)
+    yield from _logbook("plongee-v27-unmerged", 27, _current_dives(27), "plain", again=0)
     for version, policy in ((26, "current"), (25, "current"), (24, "plain"), (23, "plain"), (20, "plain")):
-        yield _old_logbook(version, policy)
-    yield _logbook("plongee-v27-dates", 27, [dates_dive(index) for index in range(len(DATES))])
-    yield _logbook("plongee-v27-unknown-objects", 27, [unknown_objects_dive(27, 0), full_dive(27, 1)])
-    yield _logbook("plongee-v27-long-text", 27, [{"noPlongee": 1, "notes": ts.string(VERY_LONG_TEXT)}])
-    yield _logbook("empty", 27, [])
+        yield from _old_logbook(version, policy)
+    yield from _logbook("plongee-v27-dates", 27, [dates_dive(index) for index in range(len(DATES))])
+    yield from _logbook("plongee-v27-unknown-objects", 27, [unknown_objects_dive(27, 0), full_dive(27, 1)])
+    yield from _logbook("plongee-v27-long-text", 27, [{"noPlongee": 1, "notes": ts.string(VERY_LONG_TEXT)}])
+    yield from _logbook("empty", 27, [])

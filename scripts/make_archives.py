@@ -9,7 +9,8 @@ swapped shows. The result is the same on every run; `--check` compares it with t
 Logbooks: {"type", "class", "version", "records": [{field: value}]}. Dates are local (Europe/Paris), ISO 8601;
 absent is null; reals in the shortest form that reads back as the same float32; an array element that is no
 readable number is null. Registers: {"class", "version", "names", "slots": [[[type, value], ...], ...]} in file
-order, without conversions. Archives to be refused: {"refused": reason}.
+order, without conversions. Archives to be refused: {"refused": reason}. An archive named "resaved-..." stands
+alone: it is, byte for byte, what the program writes after it has read the archive of that name.
 """
 
 from __future__ import annotations
@@ -47,9 +48,11 @@ def all_files() -> dict[str, bytes]:
         if name in files:
             raise ValueError(f"two archives named {name}")
         # Whatever the archive holds, it must at least be one that can be read and written back unchanged.
-        if "refused" not in expectation and ts.encode_groups(decode(content), "plain") != content:
+        if "refused" not in (expectation or {}) and ts.encode_groups(decode(content), "plain") != content:
             raise ValueError(f"{name} does not come back unchanged")
         files[name] = bytes(content)
+        if expectation is None:
+            continue
         files[name.rsplit(".", 1)[0] + ".json"] = (to_json(expectation) + "\n").encode()
     return files
 

@@ -147,6 +147,34 @@ def expected(values: dict[str, Any], version: int = CURRENT_VERSION) -> dict[str
     return decoded
 
 
+def resaved(values: dict[str, Any], version: int = CURRENT_VERSION) -> dict[str, Any]:
+    """The values that a dive read from `record(values, version)` has when it is saved again, as the current
+    version: every text and date an instance of its own and of the plain class, every list mutable, what is read
+    as a number a new plain number. Objects of other classes stay the instances that they are."""
+    read = dict(values)
+    if version < 27:
+        for pony in PONIES:
+            if values.get(pony, 0) >= 1:
+                read[pony.replace("Pony", "Bailout")] = values[pony]
+    return {name: _resaved_value(read[name]) for name, _ in slots(CURRENT_VERSION) if name in read}
+
+
+def _resaved_value(value: Any) -> Any:
+    if isinstance(value, ts.PackedArray):
+        return ts.PackedArray(value.kind, value.values)
+    if not isinstance(value, ts.Object):
+        return value
+    if value.cls in (ts.STRING, ts.MUTABLE_STRING):
+        return ts.string(value.groups[0][1][0].decode())
+    if value.cls == ts.DATE:
+        return ts.date(value.groups[0][1][0])
+    if value.cls in (ts.ARRAY, ts.MUTABLE_ARRAY):
+        return ts.array([_resaved_value(element[0]) for _, element in value.groups[1:]])
+    if "NSNumber" in value.cls.chain() and as_number(value) is not None:
+        return ts.number(value.groups[0][1][0], value.groups[1][1][0])
+    return value
+
+
 # ---- what a reader makes of archived values
 
 

@@ -39,13 +39,23 @@ Arguments::Arguments(const QStringList& words, std::span<const OptionSpec> optio
             continue;
         }
         const OptionSpec& option = find(options, words[i]);
-        QStringList& values = _options[words[i]];
+        QStringList& values = _options[words[i]].emplaceBack();
         if (option.takes == Takes::Nothing) continue;
+        if (option.takes == Takes::Words) {
+            while (i + 1 < words.size() && !isOption(words[i + 1])) values << words[++i];
+            continue;
+        }
         if (i + 1 >= words.size()) throw UsageError(QStringLiteral("%1 needs a value").arg(words[i]));
         values << words[++i];
         if (option.takes == Takes::Numbers)
             while (i + 1 < words.size() && isWhole(words[i + 1])) values << words[++i];
     }
+}
+
+QStringList Arguments::all(const char* option) const {
+    QStringList values;
+    for (const QStringList& occurrence : occurrences(option)) values += occurrence;
+    return values;
 }
 
 QString Arguments::one(const char* option) const {
@@ -79,8 +89,12 @@ void Arguments::atMost(int count) const {
 }
 
 QList<std::pair<QString, QString>> Arguments::assignments(int from) const {
+    return assignments(_positional.mid(from));
+}
+
+QList<std::pair<QString, QString>> Arguments::assignments(const QStringList& words) {
     QList<std::pair<QString, QString>> pairs;
-    for (const QString& word : _positional.mid(from)) {
+    for (const QString& word : words) {
         const qsizetype sign = word.indexOf(u'=');
         if (sign <= 0) throw UsageError(QStringLiteral("\"%1\" is not of the form control=value").arg(word));
         pairs.append({word.left(sign), word.mid(sign + 1)});

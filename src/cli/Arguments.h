@@ -19,6 +19,7 @@ enum class Takes : char {
     Nothing,
     One,      ///< one value
     Numbers,  ///< one or more whole numbers
+    Words,    ///< all words up to the next option
 };
 
 struct OptionSpec {
@@ -36,7 +37,10 @@ public:
 
     const QStringList& positional() const { return _positional; }
     bool has(const char* option) const { return _options.contains(QLatin1String(option)); }
-    QStringList all(const char* option) const { return _options.value(QLatin1String(option)); }
+    /// All its values, wherever it stood.
+    QStringList all(const char* option) const;
+    /// Its values, each time that it was given.
+    QList<QStringList> occurrences(const char* option) const { return _options.value(QLatin1String(option)); }
     /// The last value given. Throws UsageError when there is none.
     QString one(const char* option) const;
     /// The values as whole numbers. Throws UsageError.
@@ -50,10 +54,11 @@ public:
     void atMost(int count) const;
     /// The positional words from this place on as name and value: "lieu=Brest". Throws UsageError.
     QList<std::pair<QString, QString>> assignments(int from) const;
+    static QList<std::pair<QString, QString>> assignments(const QStringList& words);
 
 private:
     QStringList _positional;
-    QMap<QString, QStringList> _options;
+    QMap<QString, QList<QStringList>> _options;
 };
 
 }  // namespace sargan::cli

@@ -18,7 +18,8 @@ int runCommand(const Command& command, const GlobalOptions& options) {
         const Arguments arguments(options.rest.mid(1), command.options);
         Session session(options);
         command.run(session, arguments);
-        return std::fflush(stdout) == 0 ? done : failed;
+        if (std::fflush(stdout) == 0 && !std::ferror(stdout)) return done;
+        complain(QStringLiteral("standard output takes no more"));
     } catch (const UsageError& error) {
         complain(sentenceOf(error));
         std::fprintf(stderr, "usage: sargan %s %s\n", command.name, command.usage);
@@ -36,7 +37,7 @@ int runCommand(const Command& command, const GlobalOptions& options) {
 std::span<const Command> commands() {
     static const std::vector<Command> all = [] {
         std::vector<Command> list;
-        for (const auto part : {documentCommands(), logbookCommands()})
+        for (const auto part : {documentCommands(), logbookCommands(), calculatorCommands()})
             list.insert(list.end(), part.begin(), part.end());
         return list;
     }();

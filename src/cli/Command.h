@@ -24,6 +24,7 @@ const Command* findCommand(const QString& name);
 /// The commands, by subject.
 std::span<const Command> documentCommands();
 std::span<const Command> logbookCommands();
+std::span<const Command> calculatorCommands();
 
 /// `sargan --help`, `sargan COMMAND --help`, and the manual page's source, all from the same data.
 QString overallHelp();

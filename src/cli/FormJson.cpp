@@ -1,5 +1,6 @@
 #include "cli/FormJson.h"
 
+#include "platform/form/SystemColors.h"
 #include "platform/record/RecordJson.h"
 
 namespace sargan::cli {
@@ -34,6 +35,11 @@ QJsonValue colorToJson(const QColor& color) {
              shortest(color.alphaF()));
 }
 
+QJsonValue textColorToJson(const QColor& color) {
+    const QString name = systemColorName(color);
+    return name.isEmpty() ? colorToJson(color) : name;
+}
+
 QJsonObject formToJson(const Form& form, const Strings& strings) {
     QJsonObject controls;
     for (int control = 0; control < form.count(); ++control) {
@@ -45,7 +51,7 @@ QJsonObject formToJson(const Form& form, const Strings& strings) {
                         {QStringLiteral("text"), form.shownText(control, strings)},
                         {QStringLiteral("enabled"), state.enabled},
                         {QStringLiteral("hidden"), state.hidden},
-                        {QStringLiteral("color"), isWell ? QJsonValue() : colorToJson(state.color)}});
+                        {QStringLiteral("color"), isWell ? QJsonValue() : textColorToJson(state.color)}});
     }
     return controls;
 }

@@ -80,7 +80,7 @@ void Carnet::updateDive() {
     const qsizetype row = selectedRow();
     if (row < 0 || isReadOnly()) return;
     auto dive = std::make_shared<const Plongee>(_diveForm.addDiveToList());
-    if (sameRecord<Plongee>(*dive, record(row), PlongeeFields::all)) return;
+    if (sameArchived(*dive, record(row))) return;
     Records<Plongee> dives = records();
     dives[row] = std::move(dive);
     perform(QStringLiteral("Edit dive"), std::move(dives), selection());

@@ -39,8 +39,8 @@ public:
     /// Blanks the form, numbers the dive after the last one, lets `fill` put in what is known, builds the
     /// dive from the form, appends it and selects it. Answers its row.
     qsizetype addDive(const std::function<void()>& fill = {});
-    /// Replaces the dive at the selected row by one built from the form. When that is the same dive,
-    /// nothing changes.
+    /// Replaces the dive at the selected row by one built from the form. When both are the same in an
+    /// archive, nothing changes.
     void updateDive();
     /// The same, when the person has the form open and may have typed into it.
     void storeForm();

@@ -89,10 +89,18 @@ Plongee DiveForm::addDiveToList() {
     const auto controls = diveControls();
     for (int i = 0; i < _form.count(); ++i)
         if (const auto* field = controls[std::size_t(i)].field)
-            field->visit(dive, [&](auto& value) { take(_form, i, value); });
+            std::visit([&](auto at) { takeInto(dive, i, at); }, field->member);
     copyProfile(_working, dive);
     keepUnknownObjects(dive);
     return dive;
+}
+
+template <class T>
+void DiveForm::takeInto(Plongee& dive, int control, T Plongee::*field) const {
+    take(_form, control, dive.*field);
+    // A number that nobody typed over stays as it was to the bit, even when it is infinite or none at all.
+    if constexpr (std::is_same_v<T, Float>)
+        if (_loaded && _form.text(control) == shortest((*_loaded).*field)) dive.*field = (*_loaded).*field;
 }
 
 void DiveForm::updateUI() { updateSlider(); }

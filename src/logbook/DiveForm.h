@@ -44,6 +44,8 @@ private:
     void setMix(int o2, int n2, int he);
     void checkPressures();
     void checkMix(ControlName o2, ControlName he);
+    template <class T>
+    void takeInto(Plongee& dive, int control, T Plongee::*field) const;
     void keepUnknownObjects(Plongee& dive) const;
 
     Desk& _desk;

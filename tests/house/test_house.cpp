@@ -116,6 +116,13 @@ private Q_SLOTS:
         QVERIFY2(!dynamic.contains(u"libQt6Widgets"_s), qPrintable(dynamic));
     }
 
+    void theFormatPageIsTheOneThatTheProgramPrints() {
+        QProcess core;
+        core.start(QStringLiteral(SARGAN_CORE_PROGRAM), {u"file-format"_s});
+        QVERIFY(core.waitForFinished());
+        QCOMPARE(contentOf(source + u"/docs/file-format.md"_s), QString::fromUtf8(core.readAllStandardOutput()));
+    }
+
     void filesAreWrittenThroughTheSafeFileModule() {
         // Whoever writes a file elsewhere loses the guarantees that saving gives.
         static const QRegularExpression writes(

@@ -18,7 +18,8 @@ std::shared_ptr<const Archive> Archive::read(QByteArray bytes) {
     const qint64 offset = items.at.offset();
     const ObjectHead head = items.objectHead();
     if (head.what == ObjectHead::Reference) failArchive(offset, "the root object", u"a reference"_s);
-    if (head.what == ObjectHead::New) ArchiveWalker(items).contents(head);
+    NumberRun run(items);
+    if (head.what == ObjectHead::New) ArchiveWalker(items, run).contents(head);
     archive->_tables->root = head.index;
     items.endOfFile();
     return archive;

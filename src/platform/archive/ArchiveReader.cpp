@@ -15,7 +15,7 @@ namespace {
 /// Values at least this long in the file are remembered, so that reading through many references to one
 /// takes no longer than reading the file; shorter ones are decoded again, or remembered up to a limit.
 constexpr qint64 longValue = 64;
-constexpr qsizetype mostShortTexts = 65536;
+constexpr qsizetype mostShortValues = 65536;
 /// Objects around a slot's value: the root array and the record.
 constexpr int slotDepth = 2;
 
@@ -68,6 +68,7 @@ private:
 
     std::shared_ptr<Archive> _archive;
     ItemReader _items;
+    NumberRun _run{_items};
     ObjectHead _root;
     ObjectHead _record;
     quint32 _count = 0;
@@ -82,6 +83,7 @@ private:
     const char* _slot = nullptr;
     QHash<quint32, QString> _texts;
     QHash<quint32, NumberArray> _arrays;
+    qsizetype _shortArrays = 0;  ///< among those remembered
 };
 
 ArchiveReader::Impl::Impl(QByteArray bytes)
@@ -200,7 +202,7 @@ QString ArchiveReader::Impl::textByReference(quint32 index) {
     const auto known = _texts.constFind(index);
     if (known != _texts.constEnd()) return *known;
     const QString text = _archive->objectAt(index).asText();
-    if (text.size() >= longValue || _texts.size() < mostShortTexts) _texts.insert(index, text);
+    if (text.size() >= longValue || _texts.size() < mostShortValues) _texts.insert(index, text);
     return text;
 }
 
@@ -251,7 +253,7 @@ Moment ArchiveReader::Impl::moment(ArchivedObject& kept) {
 NumberArray ArchiveReader::Impl::arrayContents(const ObjectHead& head) {
     const qint64 start = head.offset;
     int height = 0;
-    NumberArray numbers = NumberDecoder(_items, _archive, slotDepth + 1).elements(height);
+    NumberArray numbers = NumberDecoder(_items, &_run, *_archive, slotDepth + 1).elements(height);
     finishContents(head, height, _items.entry(head.cls).isDerived());
     if (_items.at.offset() - start >= longValue) _arrays.insert(head.index, numbers);
     return numbers;
@@ -264,8 +266,10 @@ NumberArray ArchiveReader::Impl::arrayByReference(quint32 index) {
     ItemReader items(_items.tables(), index);
     const ObjectHead head = items.objectHead();
     int height = 0;
-    const NumberArray numbers = NumberDecoder(items, _archive, slotDepth + 1).elements(height);
-    if (items.at.offset() - head.offset >= longValue) _arrays.insert(index, numbers);
+    const NumberArray numbers = NumberDecoder(items, nullptr, *_archive, slotDepth + 1).elements(height);
+    if (items.at.offset() - head.offset >= longValue || _shortArrays++ < mostShortValues) {
+        _arrays.insert(index, numbers);
+    }
     return numbers;
 }
 

@@ -18,7 +18,7 @@ namespace sargan {
 /// chains are checked, and memory stays within a small multiple of the file.
 class ArchiveReader {
 public:
-    /// Checks the header.
+    /// Checks the header. Objects that are kept hold on to the bytes, which must own their memory.
     explicit ArchiveReader(QByteArray bytes);
     ~ArchiveReader();
     ArchiveReader(const ArchiveReader&) = delete;
@@ -54,7 +54,9 @@ public:
     QString readText(ArchivedObject& kept);
     /// Group "@" holding a date or nil. A class derived from NSDate gives its date and is kept.
     Moment readMoment(ArchivedObject& kept);
-    /// Group "@" holding an array of numbers or nil.
+    /// Group "@" holding an array of numbers or nil. An array of a derived class is read and kept; an object
+    /// of an unknown class is kept and gives an absent list. Among the numbers, objects of unknown classes
+    /// and numbers of other types are `Kept`; nil and other known objects are errors.
     NumberArray readNumbers(ArchivedObject& kept);
     /// Group "@" holding any object or nil.
     ArchivedObject readObject();

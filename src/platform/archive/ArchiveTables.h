@@ -135,6 +135,7 @@ public:
         _data = static_cast<T*>(data);
         _capacity = quint32(capacity);
     }
+    T* begin() { return _data; }
     T* end() { return _data + _size; }
     void grew(quint32 count) { _size += count; }
 

@@ -50,6 +50,10 @@ NumberKind numberKindOf(QByteArrayView typeCode) {
 ArchiveWalker::ArchiveWalker(ItemReader& items, ValueSink* sink, int depth)
     : _items(items), _sink(sink ? sink : &ignoringSink()), _depth(depth) {}
 
+ArchiveWalker::ArchiveWalker(ItemReader& items, NumberRun& run) : ArchiveWalker(items) {
+    _run = &run;
+}
+
 int ArchiveWalker::object() {
     return objectAfterHead(_items.objectHead());
 }
@@ -113,44 +117,51 @@ int ArchiveWalker::group() {
 int ArchiveWalker::values(QByteArrayView type) {
     _sink->beginGroup(type);
     int height = 0;
-    TypeItem item;
-    while (takeTypeItem(type, item)) height = qMax(height, value(item));
+    for (TypeCursor cursor(type); !cursor.atEnd();) height = qMax(height, value(cursor));
     _sink->endGroup();
     return height;
 }
 
-int ArchiveWalker::value(const TypeItem& item) {
-    switch (item.code) {
+int ArchiveWalker::value(TypeCursor& type) {
+    const char code = type.take();
+    switch (code) {
         case '@':
             return object();
         case '[':
+            return arrayValue(type);
         case '{':
-            return list(item);
+            return structValue(type);
         case 'f':
             _sink->realFloat(_items.at.takeFloat());
-            break;
+            return 0;
         case 'd':
             _sink->realDouble(_items.at.takeDouble());
-            break;
-        case '#': {
-            const quint32 cls = _items.classReference();
-            cls == noIndex ? _sink->nil('#') : _sink->classValue(cls);
-            break;
-        }
+            return 0;
+        case '#':
+            classValue();
+            return 0;
         case '+':
         case '*':
         case ':':
-        case '%': {
-            const QByteArrayView text = item.code == '+'   ? _items.unsharedText()
-                                        : item.code == '*' ? _items.cString()
-                                                           : _items.sharedText("a selector", true);
-            text.isNull() ? _sink->nil(item.code) : _sink->bytes(item.code, text);
-            break;
-        }
+        case '%':
+            textValue(code);
+            return 0;
         default:
-            simpleInteger(item.code);
+            simpleInteger(code);
+            return 0;
     }
-    return 0;
+}
+
+void ArchiveWalker::classValue() {
+    const quint32 cls = _items.classReference();
+    cls == noIndex ? _sink->nil('#') : _sink->classValue(cls);
+}
+
+void ArchiveWalker::textValue(char code) {
+    const QByteArrayView text = code == '+'   ? _items.unsharedText()
+                                : code == '*' ? _items.cString()
+                                              : _items.sharedText("a selector", true);
+    text.isNull() ? _sink->nil(code) : _sink->bytes(code, text);
 }
 
 void ArchiveWalker::simpleInteger(char code) {
@@ -175,29 +186,38 @@ void ArchiveWalker::simpleInteger(char code) {
     _sink->integer(code, value);
 }
 
-int ArchiveWalker::list(const TypeItem& item) {
-    if (item.code == '[' && (item.inner == "c" || item.inner == "C")) {
-        byteArray(item);
-        return 0;
-    }
-    _sink->beginList(item);
+int ArchiveWalker::arrayValue(TypeCursor& type) {
+    const quint64 length = type.takeLength();
+    const qsizetype element = type.place();
     int height = 0;
-    const quint64 rounds = item.code == '[' ? item.count : 1;
-    if (item.code == '[' && rounds > quint64(_items.at.left())) {
-        failArchive(_items.at.offset(), u"an array of %1 elements"_s.arg(rounds),
-                    u"%1 bytes left"_s.arg(_items.at.left()));
+    if (type.atBytes()) {
+        _sink->bytes('[', _items.at.takeBytes(length, "a byte array"));
+        type.skipItem();
+    } else {
+        if (length > quint64(_items.at.left())) {
+            failArchive(_items.at.offset(), u"an array of %1 elements"_s.arg(length),
+                        u"%1 bytes left"_s.arg(_items.at.left()));
+        }
+        _sink->beginList();
+        if (length == 0) type.skipItem();
+        for (quint64 i = 0; i < length; ++i) {
+            type.moveTo(element);
+            height = qMax(height, value(type));
+        }
+        _sink->endList();
     }
-    for (quint64 i = 0; i < rounds; ++i) {
-        QByteArrayView rest = item.inner;
-        TypeItem inner;
-        while (takeTypeItem(rest, inner)) height = qMax(height, value(inner));
-    }
-    _sink->endList();
+    type.take();  // ']'
     return height;
 }
 
-void ArchiveWalker::byteArray(const TypeItem& item) {
-    _sink->bytes('[', _items.at.takeBytes(item.count, "a byte array"));
+int ArchiveWalker::structValue(TypeCursor& type) {
+    type.skipName();
+    _sink->beginList();
+    int height = 0;
+    while (type.peek() != '}') height = qMax(height, value(type));
+    type.take();
+    _sink->endList();
+    return height;
 }
 
 int ArchiveWalker::numberGroups(FoundNumber& number) {
@@ -237,15 +257,24 @@ int ArchiveWalker::collectionGroups(ClassFamily family) {
     _sink->endGroup();
     int height = 0;
     for (quint64 i = 0; i < elements; ++i) {
-        _items.groupOf('@', "an element of a collection");
-        const ObjectHead head = _items.objectHead();
-        if (head.what == ObjectHead::Nil) {
-            failArchive(head.offset, "an element of a collection", describeByte(archivetag::nil));
-        }
-        _sink->beginGroup("@");
-        height = qMax(height, objectAfterHead(head));
-        _sink->endGroup();
+        height = qMax(height, element());
+        if (_run) i += _run->pass(quint32(elements - i - 1));
     }
+    return height;
+}
+
+int ArchiveWalker::element() {
+    const uchar* const group = _items.at.at();
+    const quint32 strings = _items.tables().strings.size();
+    _items.groupOf('@', "an element of a collection");
+    const ObjectHead head = _items.objectHead();
+    if (head.what == ObjectHead::Nil) {
+        failArchive(head.offset, "an element of a collection", describeByte(archivetag::nil));
+    }
+    _sink->beginGroup("@");
+    const int height = objectAfterHead(head);
+    _sink->endGroup();
+    if (_run && head.what == ObjectHead::New) _run->learn(head, group, strings);
     return height;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/archive/ItemReader.h"
+#include "platform/archive/NumberRun.h"
 #include "platform/archive/TypeEncoding.h"
 
 namespace sargan {
@@ -25,7 +25,7 @@ public:
     virtual void bytes(char /*code*/, QByteArrayView /*value*/) {}
     virtual void classValue(quint32 /*cls*/) {}
     virtual void reference(quint32 /*index*/) {}
-    virtual void beginList(const TypeItem& /*item*/) {}
+    virtual void beginList() {}
     virtual void endList() {}
 };
 
@@ -35,6 +35,8 @@ class ArchiveWalker {
 public:
     /// `depth`: how many objects are open around the place where the walk begins.
     explicit ArchiveWalker(ItemReader& items, ValueSink* sink = nullptr, int depth = 0);
+    /// A first pass over a whole archive, with a quick way through arrays of numbers.
+    ArchiveWalker(ItemReader& items, NumberRun& run);
 
     /// An object value of a group "@". Returns its height; 0 for nil.
     int object();
@@ -48,11 +50,13 @@ public:
 private:
     int group();
     int values(QByteArrayView type);
-    int value(const TypeItem& item);
-    int list(const TypeItem& item);
+    int value(TypeCursor& type);
+    int arrayValue(TypeCursor& type);
+    int structValue(TypeCursor& type);
+    void textValue(char code);
+    void classValue();
     int objectAfterHead(const ObjectHead& head);
     void simpleInteger(char code);
-    void byteArray(const TypeItem& item);
 
     struct FoundNumber {
         NumberKind kind = NumberKind::Kept;
@@ -61,10 +65,12 @@ private:
     int knownGroups(ObjectEntry cls, FoundNumber& number);
     int numberGroups(FoundNumber& number);
     int collectionGroups(ClassFamily family);
+    int element();
     bool atEndOfObject() { return _items.at.peek("a group or the end of an object") == archivetag::end; }
 
     ItemReader& _items;
     ValueSink* _sink;
+    NumberRun* _run = nullptr;
     int _depth;
 };
 

@@ -46,17 +46,23 @@ public:
     ArchiveOutput output;
 
 private:
+    struct WrittenClass {
+        ArchiveClass cls;
+        quint32 index;
+    };
     struct TextInstance {
         QString text;
         quint32 index;
     };
     quint32 beginGroupObject(const ArchiveClass& cls);
+    void archivedClass(const ArchiveClass& cls);
     void fullText(const QString& text);
     void copy(const ArchivedObject& object);
     void elementDone();
 
     NumberWriter _numberWriter{output};
     std::map<const Archive*, std::unique_ptr<ObjectCopier>> _copiers;
+    std::vector<WrittenClass> _classes;  ///< a handful, found by address
     QHash<quint64, quint32> _shortTexts;
     QHash<const QString*, TextInstance> _textInstances;
     QHash<const void*, quint32> _instances;
@@ -75,11 +81,21 @@ quint32 ArchiveWriter::Impl::beginGroupObject(const ArchiveClass& cls) {
     output.simpleType('@');
     const quint32 index = output.newItem();
     output.byte(archivetag::newItem);
+    archivedClass(cls);
+    return index;
+}
+
+void ArchiveWriter::Impl::archivedClass(const ArchiveClass& cls) {
+    for (const WrittenClass& written : _classes) {
+        if (written.cls.name == cls.name && written.cls.version == cls.version &&
+            written.cls.super == cls.super) {
+            return output.reference(written.index);
+        }
+    }
     std::vector<ArchiveOutput::ClassLink> chain;
     for (const ArchiveClass* link = &cls; link; link = link->super)
         chain.push_back({link->name, link->version});
-    output.archivedClass(chain);
-    return index;
+    _classes.push_back({cls, output.archivedClass(chain)});
 }
 
 void ArchiveWriter::Impl::beginRootArray(quint32 count) {

@@ -13,7 +13,8 @@ namespace sargan {
 
 class Archive;
 
-/// A class as this program writes it, with its chain up to the root class.
+/// A class as this program writes it, with its chain up to the root class. The name and the superclass
+/// must outlive the writer.
 struct ArchiveClass {
     const char* name;
     qint32 version;

@@ -35,7 +35,7 @@ public:
     void reference(quint32 index) override {
         add(std::make_shared<const ArchivedObject>(_archive.objectAt(index)));
     }
-    void beginList(const TypeItem&) override { _lists.emplace_back(); }
+    void beginList() override { _lists.emplace_back(); }
     void endList() override {
         QList<ArchivedValue> list = std::move(_lists.back());
         _lists.pop_back();

@@ -33,8 +33,9 @@ struct ArchivedGroup {
 };
 
 /// A view of one object of a checked archive: its class chain and its groups, decoded when asked for.
-/// It keeps the archive's bytes alive and costs nothing else, so an object of an unknown class can be kept
-/// inside a record and written back unchanged. Two views are equal when they show the same instance.
+/// It keeps the archive's bytes and object table alive and copies nothing, so an object of an unknown class
+/// can be kept inside a record and written back unchanged. Two views are equal when they show the same
+/// instance.
 class ArchivedObject {
 public:
     ArchivedObject() = default;  ///< nil

@@ -28,17 +28,27 @@ quint64 takeNumberBits(ByteCursor& at, NumberKind kind) {
 
 NumberArray NumberDecoder::elements(int& height) {
     _items.groupOf('i', "the count of an array");
-    const quint32 count = quint32(_items.takeCount(ClassFamily::Array));
-    NumberArrayBuilder builder(count);
-    for (quint32 i = 0; i < count; ++i) height = qMax(height, element(builder));
+    quint32 left = quint32(_items.takeCount(ClassFamily::Array));
+    NumberArrayBuilder builder(left);
+    if (left > 0) height = 1;
+    while (left > 0) {
+        height = qMax(height, element(builder));
+        --left;
+        if (_run) left -= _run->take(builder, left);
+    }
     return builder.take();
 }
 
 int NumberDecoder::element(NumberArrayBuilder& builder) {
+    const uchar* const group = _items.at.at();
+    const quint32 strings = _items.tables().strings.size();
     _items.groupOf('@', "a number");
     const ObjectHead head = _items.objectHead();
     if (head.what == ObjectHead::Nil) failArchive(head.offset, "a number", u"nil"_s);
-    if (head.what == ObjectHead::New) ArchiveWalker(_items, nullptr, _depth).contents(head);
+    if (head.what == ObjectHead::New) {
+        ArchiveWalker(_items, nullptr, _depth).contents(head);
+        if (_run) _run->learn(head, group, strings);
+    }
     append(builder, head.index, head.cls, head.offset);
     return _items.entry(head.index).height();
 }
@@ -57,7 +67,7 @@ void NumberDecoder::append(NumberArrayBuilder& builder, quint32 index, quint32 c
         failArchive(offset, "a number",
                     u"an object of class %1"_s.arg(QString::fromUtf8(_items.tables().classAt(cls).name)));
     }
-    builder.appendKept(_archive->objectAt(index));
+    builder.appendKept(_archive.objectAt(index));
 }
 
 /// A number whose class is described so long that its table entry cannot say where the value stands.

@@ -1,15 +1,16 @@
 #pragma once
 
 #include "platform/archive/ItemReader.h"
-#include "platform/archive/NumberStorage.h"
+#include "platform/archive/NumberRun.h"
 
 namespace sargan {
 
 /// Reads arrays of numbers straight into packed storage.
 class NumberDecoder {
 public:
-    NumberDecoder(ItemReader& items, std::shared_ptr<const Archive> archive, int depth)
-        : _items(items), _archive(std::move(archive)), _depth(depth) {}
+    /// `run` is the quick path of the first pass; a replay has none.
+    NumberDecoder(ItemReader& items, NumberRun* run, const Archive& archive, int depth)
+        : _items(items), _run(run), _archive(archive), _depth(depth) {}
 
     /// The count and the elements of an array whose head has been read. `height` gets the elements' height.
     NumberArray elements(int& height);
@@ -21,7 +22,8 @@ private:
     bool appendOddNumber(NumberArrayBuilder& builder, quint32 index);
 
     ItemReader& _items;
-    std::shared_ptr<const Archive> _archive;
+    NumberRun* _run;
+    const Archive& _archive;
     int _depth;
 };
 

@@ -11,12 +11,20 @@ namespace {
 
 constexpr uchar objectType = 0x92;  // the first shared string, "@"
 
+/// Whole and within 32 bits, where the conversion is defined and quick. Minus zero is not.
 template <typename T>
-bool isWhole(T value) {
-    if constexpr (std::is_floating_point_v<T>) {
-        return std::isfinite(value) && value == std::trunc(value) && !(value == 0 && std::signbit(value));
-    }
-    return true;
+bool isWhole32(T value) {
+    if constexpr (!std::is_floating_point_v<T>) return value == qint64(qint32(value));
+    if (!(value >= T(-2147483648.0) && value < T(2147483648.0))) return false;
+    const qint32 whole = qint32(value);
+    return T(whole) == value && (whole != 0 || !std::signbit(value));
+}
+
+/// Whole but past 32 bits.
+template <typename T>
+bool isWideWhole(T value) {
+    if constexpr (!std::is_floating_point_v<T>) return value != qint64(qint32(value));
+    return std::abs(value) >= T(2147483648.0) && std::isfinite(value) && value == std::trunc(value);
 }
 
 template <typename T>
@@ -27,19 +35,18 @@ quint64 bitsOf(T value) {
 }
 
 template <typename T>
-uchar* putReal(uchar* out, T value) {
-    if (isWrittenAsInteger(double(value))) return putInteger(out, qint64(value));
-    *out = archivetag::real;
-    qToLittleEndian(value, out + 1);
-    return out + 1 + sizeof(T);
-}
-
-template <typename T>
-uchar* putValue(uchar* out, T value, NumberKind kind) {
-    if constexpr (std::is_floating_point_v<T>) return putReal(out, value);
-    if (kind != NumberKind::Bool) return putInteger(out, qint64(value));
-    *out = uchar(value);
-    return out + 1;
+uchar* putValue(uchar* out, T value, bool whole32) {
+    if constexpr (sizeof(T) == 1) {
+        *out = uchar(value);
+        return out + 1;
+    } else if constexpr (std::is_floating_point_v<T>) {
+        if (whole32) return putInteger(out, qint64(value));
+        *out = archivetag::real;
+        qToLittleEndian(value, out + 1);
+        return out + 1 + sizeof(T);
+    } else {
+        return putInteger(out, qint64(value));
+    }
 }
 
 quint64 referenceGroup(quint32 index) {
@@ -87,19 +94,19 @@ void NumberWriter::general(const NumberArray& numbers, const KeptWriter& writeKe
         const quint64 bits = numbers.bitsAt(i);
         switch (kind) {
             case NumberKind::Bool:
-                number(qint8(bits), kind);
+                number(qint8(bits), kindOf(kind));
                 break;
             case NumberKind::Int:
-                number(qint32(bits), kind);
+                number(qint32(bits), kindOf(kind));
                 break;
             case NumberKind::LongLong:
-                number(qint64(bits), kind);
+                number(qint64(bits), kindOf(kind));
                 break;
             case NumberKind::Float:
-                number(std::bit_cast<float>(quint32(bits)), kind);
+                number(std::bit_cast<float>(quint32(bits)), kindOf(kind));
                 break;
             case NumberKind::Double:
-                number(std::bit_cast<double>(bits), kind);
+                number(std::bit_cast<double>(bits), kindOf(kind));
                 break;
             case NumberKind::Kept:
                 writeKept(numbers.keptAt(i));
@@ -110,45 +117,47 @@ void NumberWriter::general(const NumberArray& numbers, const KeptWriter& writeKe
 
 template <typename T>
 void NumberWriter::packed(std::span<const T> values, NumberKind kind) {
+    Kind& known = kindOf(kind);
     for (const T value : values) {
         _output.ensure(mostBytes);
-        number(value, kind);
+        number(value, known);
     }
 }
 
 template <typename T>
-void NumberWriter::number(T value, NumberKind kind) {
-    if (value >= T(leastSmall) && (sizeof(T) == 1 || value <= T(mostSmall))) {
-        const qint64 small = qint64(value);
-        const quint64 group = kindOf(kind).small[size_t(small - leastSmall)];
-        if (T(small) == value && group && isWhole(value)) {
-            qToLittleEndian(group, _output.end());
-            return _output.grew(qsizetype(group >> 56));
-        }
+void NumberWriter::number(T value, Kind& kind) {
+    if (isWhole32(value)) {
+        const qint64 small = qint64(value) - leastSmall;
+        const quint64 group = quint64(small) < kind.small.size() ? kind.small[size_t(small)] : 0;
+        if (group == 0) return rareWhole(value, kind);
+        qToLittleEndian(group, _output.end());
+        return _output.grew(qsizetype(group >> 56));
     }
-    isWhole(value) ? whole(value, kind) : full(value, kind);
+    isWideWhole(value) ? rareWhole(value, kind) : full(value, kind, false);
 }
 
+/// A whole number that the table of small ones does not have: large, or not written before.
 template <typename T>
-void NumberWriter::whole(T value, NumberKind kind) {
-    Kind& known = kindOf(kind);
+void NumberWriter::rareWhole(T value, Kind& kind) {
     const quint64 bits = bitsOf(value);
-    const auto written = known.large.constFind(bits);
-    if (written != known.large.constEnd()) {
+    const auto written = kind.large.constFind(bits);
+    if (written != kind.large.constEnd()) {
         const quint64 group = referenceGroup(*written);
         qToLittleEndian(group, _output.end());
         return _output.grew(qsizetype(group >> 56));
     }
-    full(value, kind);
-    // The number is the last item that was added: its class and type letter come before it or are known.
-    const bool isSmall = value >= T(leastSmall) && (sizeof(T) == 1 || value <= T(mostSmall));
-    isSmall ? void(known.small[size_t(qint64(value) - leastSmall)] = referenceGroup(_lastNumber))
-            : void(known.large.insert(bits, _lastNumber));
+    full(value, kind, isWhole32(value));
+    const bool isSmall = double(value) >= double(leastSmall) && double(value) <= double(mostSmall);
+    if (isSmall) {
+        kind.small[size_t(qint64(value) - leastSmall)] = referenceGroup(_lastNumber);
+    } else {
+        kind.large.insert(bits, _lastNumber);
+    }
 }
 
 template <typename T>
-void NumberWriter::full(T value, NumberKind kind) {
-    Prefix& prefix = kindOf(kind).prefix;
+void NumberWriter::full(T value, Kind& kind, bool whole32) {
+    const Prefix& prefix = kind.prefix;
     if (prefix.length == 0) {
         spellPrefix(kind);
         _output.ensure(mostBytes);
@@ -158,13 +167,13 @@ void NumberWriter::full(T value, NumberKind kind) {
         _lastNumber = _output.newItem();
     }
     uchar* const start = _output.end();
-    uchar* end = putValue(start, value, kind);
+    uchar* end = putValue(start, value, whole32);
     *end++ = archivetag::end;
     _output.grew(end - start);
 }
 
 /// Writes a number up to its value, and remembers the bytes when they say nothing for the first time.
-void NumberWriter::spellPrefix(NumberKind kind) {
+void NumberWriter::spellPrefix(Kind& kind) {
     static constexpr ArchiveOutput::ClassLink chain[] = {{"NSNumber", 0}, {"NSValue", 0}, {"NSObject", 0}};
     const qsizetype start = _output.size();
     const qsizetype strings = _output.stringCount();
@@ -173,13 +182,12 @@ void NumberWriter::spellPrefix(NumberKind kind) {
     _output.byte(archivetag::newItem);
     _output.archivedClass(chain);
     _output.simpleType('*');
-    const char code = char(kind);
+    const char code = char(kind.kind);
     _output.cString(QByteArrayView(&code, 1));
     _output.simpleType(code);
     if (_output.itemCount() != _lastNumber + 1 || _output.stringCount() != strings) return;
-    Prefix& prefix = kindOf(kind).prefix;
-    prefix.length = int(_output.size() - start);
-    std::memcpy(prefix.bytes.data(), _output.end() - prefix.length, size_t(prefix.length));
+    kind.prefix.length = int(_output.size() - start);
+    std::memcpy(kind.prefix.bytes.data(), _output.end() - kind.prefix.length, size_t(kind.prefix.length));
 }
 
 }  // namespace sargan

@@ -34,6 +34,7 @@ private:
     /// A group with a reference, up to six bytes, and its length in the top byte; 0 when not written yet.
     using SmallReferences = std::array<quint64, size_t(mostSmall - leastSmall + 1)>;
     struct Kind {
+        NumberKind kind;
         Prefix prefix;
         SmallReferences small{};
         QHash<quint64, quint32> large;
@@ -42,17 +43,21 @@ private:
     template <typename T>
     void packed(std::span<const T> values, NumberKind kind);
     template <typename T>
-    void number(T value, NumberKind kind);
+    void number(T value, Kind& kind);
     template <typename T>
-    void full(T value, NumberKind kind);
+    void full(T value, Kind& kind, bool whole32);
     template <typename T>
-    void whole(T value, NumberKind kind);
+    void rareWhole(T value, Kind& kind);
     void general(const NumberArray& numbers, const KeptWriter& writeKept);
-    void spellPrefix(NumberKind kind);
+    void spellPrefix(Kind& kind);
     Kind& kindOf(NumberKind kind);
 
     ArchiveOutput& _output;
-    std::array<Kind, 5> _kinds;
+    std::array<Kind, 5> _kinds{{{NumberKind::Bool, {}, {}, {}},
+                                {NumberKind::Int, {}, {}, {}},
+                                {NumberKind::LongLong, {}, {}, {}},
+                                {NumberKind::Float, {}, {}, {}},
+                                {NumberKind::Double, {}, {}, {}}}};
     quint32 _lastNumber = 0;
 };
 

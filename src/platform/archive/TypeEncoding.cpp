@@ -88,38 +88,29 @@ private:
     qsizetype _at = 0;
 };
 
-/// Where the bracket that `text` begins with is closed.
-qsizetype closingBracket(QByteArrayView text) {
-    int open = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == '[' || text[i] == '{') ++open;
-        if ((text[i] == ']' || text[i] == '}') && --open == 0) return i;
-    }
-    return text.size() - 1;
-}
-
 }  // namespace
 
 void checkTypeEncoding(QByteArrayView type, qint64 offset) {
     TypeChecker(type, offset).check();
 }
 
-bool takeTypeItem(QByteArrayView& rest, TypeItem& item) {
-    if (rest.isEmpty()) return false;
-    item = {rest[0], {}, 0};
-    qsizetype length = 1;
-    if (item.code == '[' || item.code == '{') {
-        const qsizetype close = closingBracket(rest);
-        qsizetype start = 1;
-        if (item.code == '{') start = rest.indexOf('=') + 1;
-        for (; item.code == '[' && isDigit(rest[start]); ++start) {
-            item.count = item.count * 10 + quint64(rest[start] - '0');
-        }
-        item.inner = rest.sliced(start, close - start);
-        length = close + 1;
+quint64 TypeCursor::takeLength() {
+    quint64 length = 0;
+    while (isDigit(peek())) length = length * 10 + quint64(take() - '0');
+    return length;
+}
+
+void TypeCursor::skipName() {
+    while (take() != '=') {
     }
-    rest = rest.sliced(length);
-    return true;
+}
+
+void TypeCursor::skipItem() {
+    int open = 0;
+    do {
+        const char code = take();
+        open += (code == '[' || code == '{') - (code == ']' || code == '}');
+    } while (open > 0);
 }
 
 }  // namespace sargan

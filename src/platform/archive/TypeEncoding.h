@@ -4,19 +4,34 @@
 
 namespace sargan {
 
-/// One item of a type encoding: a simple type by its letter, or a list of values.
-struct TypeItem {
-    char code = 0;         ///< the letter; '[' for an array, '{' for a struct
-    QByteArrayView inner;  ///< an array's element type, a struct's fields
-    quint64 count = 0;     ///< an array's length
-};
-
 /// Refuses (ArchiveError at `offset`) an encoding that is empty, has an unknown letter, unbalanced brackets,
 /// more than 16 levels, arrays whose elements hold nothing or whose size overflows, structs without fields,
 /// or far more text than values: reading by a checked encoding takes time in proportion to the bytes read.
 void checkTypeEncoding(QByteArrayView type, qint64 offset);
 
-/// Takes the first item off a checked encoding; false when nothing is left.
-bool takeTypeItem(QByteArrayView& rest, TypeItem& item);
+/// Steps through a checked encoding letter by letter.
+class TypeCursor {
+public:
+    explicit TypeCursor(QByteArrayView type) : _type(type) {}
+
+    bool atEnd() const { return _at == _type.size(); }
+    char peek() const { return _type[_at]; }
+    char take() { return _type[_at++]; }
+    /// Whether the elements of an array, whose length has just been taken, are bytes.
+    bool atBytes() const { return (peek() == 'c' || peek() == 'C') && _type[_at + 1] == ']'; }
+    /// After '[': the array's length.
+    quint64 takeLength();
+    /// After '{': the struct's name and '='.
+    void skipName();
+    /// One item with all that is in it.
+    void skipItem();
+
+    qsizetype place() const { return _at; }
+    void moveTo(qsizetype place) { _at = place; }
+
+private:
+    QByteArrayView _type;
+    qsizetype _at = 0;
+};
 
 }  // namespace sargan

@@ -16,7 +16,11 @@ QString described(ExpectedPrompt::Kind kind, const QString& text) {
 class CountingProgress : public Progress {
 public:
     explicit CountingProgress(int stopAfter) : _left(stopAfter) {}
-    bool advance(double) override { return _left < 0 || _left-- > 0; }
+    bool advance(double) override {
+        if (_left == 0) return false;
+        if (_left > 0) --_left;
+        return true;
+    }
 
 private:
     int _left;

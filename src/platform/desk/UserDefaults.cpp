@@ -4,6 +4,9 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <algorithm>
+#include <climits>
+#include <cmath>
 
 #include "platform/files/SafeFile.h"
 #include "platform/text/Message.h"
@@ -33,9 +36,11 @@ UserDefaults::UserDefaults(const QString& folder) : _folder(folder) {
         _problem = QStringLiteral("%1: the settings could not be read (byte %2: %3); %4")
                        .arg(file)
                        .arg(error.offset)
-                       .arg(error.errorString(), moved ? QStringLiteral("they were set aside as %1").arg(aside)
+                       .arg(document.isNull() ? error.errorString() : QStringLiteral("an object was expected"),
+                            moved ? QStringLiteral("they were set aside as %1").arg(aside)
                                                        : QStringLiteral("they will be replaced"));
     } catch (const ReadError& error) {
+        _isReadable = false;
         _problem = error.sentence();
     }
 }
@@ -65,7 +70,7 @@ void UserDefaults::remove(const QString& key) {
 }
 
 void UserDefaults::write() {
-    if (_folder.isEmpty()) return;
+    if (_folder.isEmpty() || !_isReadable) return;
     _problem.clear();
     QDir().mkpath(_folder);
     try {
@@ -87,7 +92,8 @@ bool UserDefaults::boolean(const QString& key) const {
 int UserDefaults::integer(const QString& key) const {
     const QJsonValue found = value(key);
     if (found.isString()) return leadingInteger(found.toString());
-    return leadingInteger(QString::number(found.isBool() ? found.toBool() : found.toDouble(), 'f', 3));
+    if (found.isBool()) return found.toBool();
+    return int(std::clamp<double>(std::trunc(found.toDouble()), INT_MIN, INT_MAX));
 }
 
 double UserDefaults::number(const QString& key) const {

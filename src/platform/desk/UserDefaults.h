@@ -14,7 +14,8 @@ class UserDefaults {
 public:
     UserDefaults() = default;
     /// Reads the folder's settings file. A damaged file is set aside beside it and `problem` says so; the
-    /// program then starts with the registered values.
+    /// program then starts with the registered values. A file that cannot be read at all is never replaced:
+    /// what is stored then lives in memory only.
     explicit UserDefaults(const QString& folder);
 
     const QString& folder() const { return _folder; }
@@ -33,7 +34,7 @@ public:
     void remove(const QString& key);
 
     /// Loose readings, as a settings store gives them: booleans from numbers and words, numbers from texts
-    /// (leading number, else 0), texts from numbers.
+    /// (leading number, else 0), texts from numbers; whole numbers truncated towards zero, within int32.
     bool boolean(const QString& key) const;
     int integer(const QString& key) const;
     double number(const QString& key) const;
@@ -44,6 +45,7 @@ private:
     void write();
 
     QString _folder;
+    bool _isReadable = true;
     QString _problem;
     QJsonObject _stored;
     QJsonObject _registered;

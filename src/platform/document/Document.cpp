@@ -40,12 +40,16 @@ void Document::readBytes(const QByteArray& bytes, const QString& type) {
 
 void Document::saveTo(const QString& path, bool overwriteChanged) {
     const QString absolute = QFileInfo(path).absoluteFilePath();
+    const bool ownFile = absolute == _path;
+    if (ownFile && _readOnly)
+        throw DocumentError(QStringLiteral("%1: this document was opened to look at only, so the file was left "
+                                           "alone")
+                                .arg(path));
     const QByteArray bytes = dataRepresentationOfType(_kind.currentTypeName(_desk));
     if (!holdsContent(bytes))
         throw DocumentError(QStringLiteral("%1: what would be written does not read back as this document, so "
                                            "nothing was written")
                                 .arg(path));
-    const bool ownFile = absolute == _path;
     SaveOptions options;
     options.keepBackup = true;
     options.overwriteChanged = overwriteChanged;
@@ -54,7 +58,7 @@ void Document::saveTo(const QString& path, bool overwriteChanged) {
         _stamp = saveFile(absolute, bytes, options);
     } catch (const SaveError& error) {
         // The new version is in place after all; only its survival of a power failure is open.
-        if (error.replaced()) _stamp = stampOf(bytes);
+        if (error.replaced() && ownFile) _stamp = stampOf(bytes);
         throw;
     }
     _path = absolute;
@@ -82,7 +86,9 @@ void Document::detachFromFile() {
     _path.clear();
     _stamp.reset();
     lock.reset();
-    setState(newState());
+    const bool wasEdited = isEdited();
+    _savedState = newState();  // which no state of the content is
+    if (!wasEdited) Q_EMIT editedChanged();
     Q_EMIT fileChanged();
 }
 

@@ -102,8 +102,15 @@ protected:
         const Records<R> read = readRecords(bytes, _class);
         if (read.size() != count()) return false;
         for (qsizetype row = 0; row < count(); ++row)
-            if (read[row] != _now.records[row] && !sameArchived(*read[row], record(row))) return false;
+            if (!sameArchived(*read[row], record(row))) return false;
         return true;
+    }
+
+    /// Whether saving `written` gives a record with exactly the archived values of `read`.
+    bool sameArchived(const R& read, const R& written) const {
+        return std::all_of(_class.slots.begin(), _class.slots.end(), [&](const Slot<R>& slot) {
+            return !slot.isIn(_class.version) || sameInSlot(slot, read, written);
+        });
     }
 
 private:
@@ -113,19 +120,22 @@ private:
         quint64 state = 0;
     };
 
-    bool sameArchived(const R& read, const R& written) const {
-        for (const Slot<R>& slot : _class.slots) {
-            if (!slot.isIn(_class.version)) continue;
-            const bool same = std::visit(
-                [&](auto target) { return sameSource(read.*target, written, *slot.writtenFrom); }, slot.field->member);
-            if (!same) return false;
+    bool sameInSlot(const Slot<R>& slot, const R& read, const R& written) const {
+        if (written.hasKept()) {
+            const ArchivedObject kept = written.kept(fieldIndex(_class.fields, *slot.writtenFrom));
+            if (!kept.isNil() && !sameContent(read.kept(fieldIndex(_class.fields, *slot.field)), kept)) return false;
         }
-        return true;
+        return std::visit([&](auto target) { return sameSource(read.*target, written, *slot.writtenFrom); },
+                          slot.field->member);
     }
     template <class T>
     static bool sameSource(const T& read, const R& written, const Field<R>& from) {
         const auto source = std::get_if<T R::*>(&from.member);
-        return source && sameValue(read, written.**source);
+        if (!source) return false;
+        if constexpr (std::is_same_v<T, Numbers>)
+            return sameContent(read, written.**source);
+        else
+            return sameValue(read, written.**source);
     }
 
     template <class Move>

@@ -11,7 +11,7 @@ QString FileMessage::text() const {
     return filled;
 }
 
-FileMessage fileMessage(const char* key, const char* format, QStringList arguments) {
+FileMessage fileMessage(const char* key, const char* format, const QStringList& arguments) {
     const QString pattern = QString::fromUtf8(format);
     return {QString::fromUtf8(key), pattern, arguments.mid(0, pattern.count(u"%@"_s))};
 }

@@ -17,6 +17,6 @@ struct FileMessage {
 };
 
 /// `arguments` is cut to the number of "%@" in `format`.
-FileMessage fileMessage(const char* key, const char* format, QStringList arguments);
+FileMessage fileMessage(const char* key, const char* format, const QStringList& arguments);
 
 }  // namespace sargan

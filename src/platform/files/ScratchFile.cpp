@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
+#include <QByteArray>
 #include <QRandomGenerator>
 #include <algorithm>
 #include <string_view>

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QColor>
+#include <QList>
 #include <QString>
 #include <span>
 
@@ -40,6 +41,7 @@ struct ControlSpec {
     std::span<const char* const> choices = {};       ///< combo boxes with a fixed list
     int minimum = 0;                                 ///< sliders
     int maximum = 0;
+    bool spread = false;                             ///< pop-ups: all items in view, as radio buttons
 };
 
 /// A control's name where the code uses it; texts from outside go through Form::find.
@@ -50,9 +52,18 @@ struct ControlName {
 /// The tag of a pop-up that has nothing selected.
 inline constexpr int noTag = INT_MIN;
 
+/// A piece of a text in one colour; invalid for the default.
+struct TextRun {
+    QString text;
+    QColor color;
+
+    friend bool operator==(const TextRun&, const TextRun&) = default;
+};
+
 /// What a control holds and how it is shown. Which of the values counts depends on its kind.
 struct ControlState {
-    QString text;          ///< Text, Number, Area, Combo, Caption
+    QString text;          ///< Text, Number, Area, Combo, Caption; a null one stands for an absent value
+    QList<TextRun> runs;   ///< Caption: the text in pieces of several colours; empty for one colour
     int tag = 0;           ///< PopUp: tag; Switch: 0 or 1; Slider: value
     Moment date;           ///< Date, Time
     QByteArray image;      ///< Image: bytes as they were given

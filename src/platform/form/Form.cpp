@@ -42,6 +42,13 @@ int Form::integer(int control) const {
     return isTyped(spec(control).kind) ? leadingInteger(state(control).text) : state(control).tag;
 }
 
+namespace {
+
+/// An absent text and an empty one are two values, though they look the same.
+bool isSameText(const QString& a, const QString& b) { return a == b && a.isNull() == b.isNull(); }
+
+}  // namespace
+
 template <typename T>
 void Form::assign(int control, T ControlState::*member, const T& value) {
     T& held = _states[std::size_t(control)].*member;
@@ -50,7 +57,23 @@ void Form::assign(int control, T ControlState::*member, const T& value) {
     Q_EMIT changed(control);
 }
 
-void Form::setText(int control, const QString& text) { assign(control, &ControlState::text, text); }
+void Form::setText(int control, const QString& text) {
+    ControlState& held = _states[std::size_t(control)];
+    if (held.runs.isEmpty() && isSameText(held.text, text)) return;
+    held.runs.clear();
+    held.text = text;
+    Q_EMIT changed(control);
+}
+
+void Form::setRuns(int control, const QList<TextRun>& runs) {
+    QString text;
+    for (const TextRun& run : runs) text += run.text;
+    ControlState& held = _states[std::size_t(control)];
+    if (held.runs == runs && isSameText(held.text, text)) return;
+    held.runs = runs;
+    held.text = text;
+    Q_EMIT changed(control);
+}
 
 void Form::setInteger(int control, int value) {
     if (isTyped(spec(control).kind))

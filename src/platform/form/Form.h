@@ -49,6 +49,8 @@ public:
     int integer(int control) const;
 
     void setText(int control, const QString& text);
+    /// A text in pieces of several colours; a caption shows them, any control holds them as one text.
+    void setRuns(int control, const QList<TextRun>& runs);
     void setInteger(int control, int value);  ///< a field's text, or the tag
     void setTag(int control, int tag);
     void setDate(int control, const Moment& date);

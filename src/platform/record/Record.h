@@ -45,4 +45,10 @@ private:
     std::shared_ptr<const Kept> _kept;  ///< null in nearly every record
 };
 
+/// Whether two objects hold the same, though in different archives: classes, values, and what is shared
+/// among them.
+bool sameContent(const ArchivedObject& a, const ArchivedObject& b);
+/// The same for lists: equal numbers to the bit, and kept objects that hold the same.
+bool sameContent(const NumberArray& a, const NumberArray& b);
+
 }  // namespace sargan

@@ -11,7 +11,7 @@ namespace sargan::json {
 namespace {
 
 [[noreturn]] void wrong(const QString& path, const char* expected) {
-    throw JsonError(path, QStringLiteral("expected %1").arg(QLatin1String(expected)));
+    throw JsonError(path, QStringLiteral("expected %1").arg(QString::fromUtf8(expected)));
 }
 
 const char* pictureKind(const QByteArray& bytes) {

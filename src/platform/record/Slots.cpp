@@ -1,8 +1,20 @@
 #include "platform/record/Slots.h"
 
+#include <algorithm>
 #include <bit>
+#include <cmath>
 
 namespace sargan::slotio {
+
+namespace {
+
+/// Truncated towards zero; the nearest whole number where 32 bits do not reach, 0 for none.
+qint32 wholeOf(Float value) {
+    if (std::isnan(value)) return 0;
+    return qint32(std::clamp<double>(std::trunc(value), INT_MIN, INT_MAX));
+}
+
+}  // namespace
 
 void read(ArchiveReader& reader, SlotForm, Int& value, ArchivedObject&) { value = reader.readInt(); }
 
@@ -30,7 +42,7 @@ void write(ArchiveWriter& writer, SlotForm, const Int& value) { writer.writeInt(
 void write(ArchiveWriter& writer, SlotForm form, const Float& value) {
     switch (form) {
         case SlotForm::Plain: writer.writeFloat(value); break;
-        case SlotForm::OldInt: writer.writeInt(qint32(value)); break;
+        case SlotForm::OldInt: writer.writeInt(wholeOf(value)); break;
         case SlotForm::Bits: writer.writeInt(std::bit_cast<qint32>(value)); break;
     }
 }

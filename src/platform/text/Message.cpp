@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <optional>
 
 namespace sargan {
 
@@ -40,18 +41,39 @@ bool takesArgument(const Placeholder& placeholder) {
 QString plain(const FormatArgument& argument) {
     if (auto whole = std::get_if<qint64>(&argument)) return QString::number(*whole);
     if (auto real = std::get_if<double>(&argument)) return shortest(*real);
+    if (auto real = std::get_if<float>(&argument)) return shortest(*real);
     return std::get<QString>(argument);
 }
 
+/// Rounded as C formats round: exactly, and a tie to the even digit (2.25 gives 2.2 where QString says 2.3).
+QString fixedPoint(double value, int precision) {
+    std::string digits(400 + std::size_t(precision), '\0');  // the largest double has 309 before the point
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed,
+                                   precision);
+    return QString::fromLatin1(digits.data(), end.ptr - digits.data());
+}
+
+std::optional<double> realOf(const FormatArgument& argument) {
+    if (auto real = std::get_if<double>(&argument)) return *real;
+    if (auto real = std::get_if<float>(&argument)) return *real;
+    return std::nullopt;
+}
+
 QString shown(const Placeholder& placeholder, const FormatArgument& argument) {
-    const auto* real = std::get_if<double>(&argument);
+    const std::optional<double> real = realOf(argument);
     const bool fixed = placeholder.conversion == u'f' && real && std::isfinite(*real);
     const QString text =
-        fixed ? QString::number(*real, 'f', placeholder.precision < 0 ? 6 : placeholder.precision) : plain(argument);
+        fixed ? fixedPoint(*real, placeholder.precision < 0 ? 6 : placeholder.precision) : plain(argument);
     return text.rightJustified(placeholder.width);
 }
 
 }  // namespace
+
+FormatArgument WholeNumber::argument() const {
+    constexpr double limit = 9.2e18;  // within a 64-bit integer, whatever the rounding
+    if (std::abs(value) < limit) return qint64(value);
+    return value;
+}
 
 std::vector<ArgumentKind> placeholdersOf(QStringView format) {
     std::vector<ArgumentKind> kinds;

@@ -10,7 +10,7 @@
 namespace sargan {
 
 /// One argument of a localised format.
-using FormatArgument = std::variant<qint64, double, QString>;
+using FormatArgument = std::variant<qint64, float, double, QString>;
 
 /// What a message takes at one place: `%d` a whole number, `%f` a real, `%@` anything.
 enum class ArgumentKind : char { Whole = 'd', Real = 'f', Text = '@' };
@@ -27,9 +27,16 @@ QString fillFormat(QStringView format, std::span<const FormatArgument> arguments
 QString shortest(double value);
 QString shortest(float value);
 
+/// A real that a message takes as a whole number. What no whole number is, is shown as it stands: "inf".
+struct WholeNumber {
+    double value;
+    /// Cut off towards zero.
+    FormatArgument argument() const;
+};
+
 template <typename T>
 constexpr ArgumentKind argumentKindOf() {
-    if constexpr (std::is_integral_v<T>) return ArgumentKind::Whole;
+    if constexpr (std::is_integral_v<T> || std::is_same_v<T, WholeNumber>) return ArgumentKind::Whole;
     if constexpr (std::is_floating_point_v<T>) return ArgumentKind::Real;
     return ArgumentKind::Text;
 }

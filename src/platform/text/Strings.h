@@ -47,9 +47,14 @@ public:
 private:
     template <typename T>
     static FormatArgument argument(const T& value) {
-        if constexpr (std::is_integral_v<T>) return qint64(value);
-        if constexpr (std::is_floating_point_v<T>) return double(value);
-        if constexpr (!std::is_arithmetic_v<T>) return QString(value);
+        if constexpr (std::is_same_v<T, WholeNumber>)
+            return value.argument();
+        else if constexpr (std::is_integral_v<T>)
+            return qint64(value);
+        else if constexpr (std::is_floating_point_v<T>)
+            return value;
+        else
+            return QString(value);
     }
     QString filled(const char* key, const char* fallback, const char* table, std::span<const ArgumentKind> kinds,
                    std::span<const FormatArgument> arguments) const;

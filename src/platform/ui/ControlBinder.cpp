@@ -1,5 +1,7 @@
 #include "platform/ui/ControlBinder.h"
 
+#include <QFocusEvent>
+
 #include "platform/ui/ChoiceBinders.h"
 #include "platform/ui/ImageBinder.h"
 #include "platform/ui/MomentBinders.h"
@@ -38,6 +40,13 @@ void ControlBinder::endEditing() {
     _ending = true;
     _form.endEditing(_control);
     _ending = false;
+}
+
+bool ControlBinder::eventFilter(QObject*, QEvent* event) {
+    if (event->type() != QEvent::FocusOut) return false;
+    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) endEditing();
+    return false;
 }
 
 void ControlBinder::showColor(const QColor& color) {

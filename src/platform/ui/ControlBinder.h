@@ -1,12 +1,10 @@
 #pragma once
 
-#include <QObject>
+#include <QWidget>
 #include <memory>
 
 #include "platform/desk/Desk.h"
 #include "platform/form/Form.h"
-
-class QWidget;
 
 namespace sargan {
 
@@ -38,6 +36,7 @@ public:
     virtual bool grows() const { return false; }
     virtual void setCharacters(int) {}
     virtual void takeFocus();
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     virtual void show(const ControlState& state) = 0;
@@ -45,6 +44,8 @@ protected:
     Form& form() const { return _form; }
     /// The person has left the control.
     void endEditing();
+    /// Ends the editing when the keyboard leaves this field for another one.
+    void watchLeaving(QWidget* field) { field->installEventFilter(this); }
 
 private:
     void showColor(const QColor& color);

@@ -5,12 +5,33 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QScreen>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QVBoxLayout>
 
 namespace sargan {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Keeps neighbouring texts apart where one stands at the right and the next at the left.
+class SpacedCells : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem whole = option;
+        initStyleOption(&whole, index);
+        whole.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &whole, painter, whole.widget);
+        QStyleOptionViewItem inner = option;
+        inner.rect.adjust(4, 0, -4, 0);
+        QStyledItemDelegate::paint(painter, inner, index);
+    }
+};
+
+}  // namespace
 
 DocumentWindow::DocumentWindow(Document& document, const QString& name) : _document(document), _name(name) {
     setAcceptDrops(true);
@@ -87,13 +108,18 @@ void DocumentWindow::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void DocumentWindow::dropEvent(QDropEvent* event) {
-    QStringList paths;
-    const QList<QUrl> urls = event->mimeData()->urls();
-    for (const QUrl& url : urls)
-        if (url.isLocalFile()) paths << url.toLocalFile();
+    const QStringList paths = localFiles(*event->mimeData());
     if (paths.isEmpty()) return;
     event->acceptProposedAction();
     Q_EMIT filesDropped(paths);
+}
+
+QStringList localFiles(const QMimeData& dragged) {
+    QStringList paths;
+    const QList<QUrl> urls = dragged.urls();
+    for (const QUrl& url : urls)
+        if (url.isLocalFile()) paths << url.toLocalFile();
+    return paths;
 }
 
 void setUpTable(QTableView* table) {
@@ -101,6 +127,7 @@ void setUpTable(QTableView* table) {
     table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setAlternatingRowColors(true);
+    table->setItemDelegate(new SpacedCells(table));
     table->setShowGrid(false);
     table->setWordWrap(false);
     table->setTabKeyNavigation(false);

@@ -6,6 +6,7 @@
 
 class QLabel;
 class QMenu;
+class QMimeData;
 class QTableView;
 
 namespace sargan {
@@ -68,5 +69,8 @@ private:
 
 /// Makes a table look as in all document windows: whole rows are selected, all rows have one height.
 void setUpTable(QTableView* table);
+
+/// The files of this computer among what is dragged.
+QStringList localFiles(const QMimeData& dragged);
 
 }  // namespace sargan

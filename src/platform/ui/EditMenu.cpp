@@ -16,8 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QWidget* focusField() {
-    QWidget* focus = QApplication::focusWidget();
-    return qobject_cast<QLineEdit*>(focus) || qobject_cast<QPlainTextEdit*>(focus) ? focus : nullptr;
+    return UndoGate::fieldOf(QApplication::focusWidget());
 }
 
 /// Calls the same-named slot of whichever text field has the keyboard; answers whether there was one.
@@ -119,7 +118,7 @@ void EditMenu::updateAll() {
     _undo->setEnabled(UndoGate::canUndo(field) || document.canUndo() || _window.mayHavePending());
     _redo->setEnabled(UndoGate::canRedo(field) || document.canRedo());
     _cut->setEnabled(isWritable(field) && hasSelection(field));
-    _copy->setEnabled(field ? hasSelection(field) : !_window.copiedText().isEmpty());
+    _copy->setEnabled(!field || hasSelection(field));
     _paste->setEnabled(isWritable(field) && !QApplication::clipboard()->text().isEmpty());
 }
 

@@ -9,7 +9,8 @@ MomentBinder::MomentBinder(Form& form, int control, MomentField::Part part, QWid
     UndoGate::guard(_field);
     connect(_field, &MomentField::momentEdited, this,
             [this](const Moment& moment) { this->form().setDate(this->control(), moment); });
-    connect(_field, &QLineEdit::editingFinished, this, [this] { endEditing(); });
+    connect(_field, &QLineEdit::returnPressed, this, [this] { endEditing(); });
+    watchLeaving(_field);
 }
 
 void MomentBinder::setCharacters(int count) {

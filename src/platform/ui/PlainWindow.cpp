@@ -41,8 +41,9 @@ void PlainWindow::showCount() {
 
 QString selectedText(const QTableView& table) {
     QStringList lines;
-    const QModelIndexList rows = table.selectionModel()->selectedRows();
-    for (const QModelIndex& row : rows) {
+    QModelIndexList rows = table.selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    for (const QModelIndex& row : std::as_const(rows)) {
         QStringList cells;
         for (int column = 0; column < table.model()->columnCount(); ++column)
             cells << row.siblingAtColumn(column).data().toString();

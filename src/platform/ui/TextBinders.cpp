@@ -3,7 +3,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -32,7 +32,8 @@ LineBinder::LineBinder(Form& form, int control, QWidget* parent)
     UndoGate::guard(_edit);
     connect(_edit, &QLineEdit::textEdited, this,
             [this](const QString& text) { this->form().setText(this->control(), present(text)); });
-    connect(_edit, &QLineEdit::editingFinished, this, [this] { endEditing(); });
+    connect(_edit, &QLineEdit::returnPressed, this, [this] { endEditing(); });
+    watchLeaving(_edit);
 }
 
 QWidget* LineBinder::widget() const {
@@ -67,18 +68,13 @@ AreaBinder::AreaBinder(Form& form, int control, QWidget* parent)
     _edit->setTabChangesFocus(true);
     _edit->setMinimumHeight(_edit->fontMetrics().lineSpacing() * 4);
     UndoGate::guard(_edit);
-    _edit->installEventFilter(this);
+    watchLeaving(_edit);
     connect(_edit, &QPlainTextEdit::textChanged, this,
             [this] { this->form().setText(this->control(), present(_edit->toPlainText())); });
 }
 
 QWidget* AreaBinder::widget() const {
     return _edit;
-}
-
-bool AreaBinder::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == _edit && event->type() == QEvent::FocusOut) endEditing();
-    return false;
 }
 
 void AreaBinder::show(const ControlState& state) {
@@ -96,18 +92,17 @@ ComboBinder::ComboBinder(Form& form, int control, const UserDefaults& defaults, 
     : ControlBinder(form, control), _defaults(defaults), _combo(new QComboBox(parent)) {
     _combo->setEditable(true);
     _combo->setInsertPolicy(QComboBox::NoInsert);
-    // Return must not replace what was typed by an entry that differs in upper and lower case.
-    _combo->setDuplicatesEnabled(true);
     _combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     _combo->setMinimumContentsLength(5);
     _combo->setFocusPolicy(Qt::StrongFocus);
     _combo->completer()->setCompletionMode(QCompleter::PopupCompletion);
     _combo->completer()->setCaseSensitivity(Qt::CaseInsensitive);
-    UndoGate::guard(_combo->lineEdit());
-    _combo->installEventFilter(this);
+    // A combo box takes the keyboard itself and passes events to its line without anybody seeing them there.
+    UndoGate::guard(_combo);
+    watchLeaving(_combo);
     _combo->lineEdit()->installEventFilter(this);
     connect(_combo->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { take(text); });
-    connect(_combo->lineEdit(), &QLineEdit::editingFinished, this, [this] { endEditing(); });
+    connect(_combo->lineEdit(), &QLineEdit::returnPressed, this, [this] { endEditing(); });
     connect(_combo->completer(), qOverload<const QString&>(&QCompleter::activated), this,
             [this](const QString& text) { take(text); });
     connect(_combo, &QComboBox::textActivated, this, [this](const QString& text) {
@@ -135,8 +130,22 @@ bool ComboBinder::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     const bool comes = event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonPress;
-    if (comes && (watched == _combo || watched == _combo->lineEdit())) offerChoices();
-    return false;
+    if (comes) offerChoices();
+    if (watched != _combo) return false;
+    // While typing, upper and lower case are alike for the completer. On Return and on leaving they are not,
+    // or the combo box would replace what was typed by an entry in other letters.
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        matchLetters(key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab);
+    }
+    if (event->type() == QEvent::FocusOut) matchLetters(true);
+    return ControlBinder::eventFilter(watched, event);
+}
+
+void ComboBinder::matchLetters(bool exactly) {
+    QCompleter* completer = _combo->completer();
+    if (completer->popup()->isVisible()) return;
+    completer->setCaseSensitivity(exactly ? Qt::CaseSensitive : Qt::CaseInsensitive);
 }
 
 QStringList ComboBinder::choices() const {

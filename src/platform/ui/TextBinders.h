@@ -37,7 +37,6 @@ public:
     AreaBinder(Form& form, int control, QWidget* parent);
     QWidget* widget() const override;
     bool grows() const override { return true; }
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     void show(const ControlState& state) override;
@@ -64,6 +63,7 @@ protected:
 private:
     QStringList choices() const;
     void offerChoices();
+    void matchLetters(bool exactly);
     void take(const QString& text);
 
     const UserDefaults& _defaults;

@@ -1,5 +1,6 @@
 #include "platform/ui/UndoGate.h"
 
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -8,6 +9,11 @@ namespace sargan {
 
 void UndoGate::guard(QWidget* field) {
     field->installEventFilter(new UndoGate(field));
+}
+
+QWidget* UndoGate::fieldOf(QWidget* widget) {
+    if (const auto* combo = qobject_cast<QComboBox*>(widget)) return combo->lineEdit();
+    return qobject_cast<QLineEdit*>(widget) || qobject_cast<QPlainTextEdit*>(widget) ? widget : nullptr;
 }
 
 bool UndoGate::canUndo(const QWidget* field) {
@@ -29,7 +35,7 @@ bool UndoGate::canRedo(const QWidget* field) {
 bool UndoGate::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::ShortcutOverride) return false;
     const auto* key = static_cast<QKeyEvent*>(event);
-    const auto* field = qobject_cast<QWidget*>(watched);
+    const QWidget* field = fieldOf(qobject_cast<QWidget*>(watched));
     const bool pass = (key->matches(QKeySequence::Undo) && !canUndo(field)) ||
                       (key->matches(QKeySequence::Redo) && !canRedo(field));
     if (pass) event->ignore();

@@ -12,8 +12,11 @@ class UndoGate : public QObject {
     Q_OBJECT
 
 public:
-    /// Guards a line edit or a plain text edit for as long as it lives.
+    /// Guards a line edit, a plain text edit or an editable combo box for as long as it lives.
     static void guard(QWidget* field);
+    /// The text field that keys typed at this widget go to: itself, or the line of a combo box; null for
+    /// others.
+    static QWidget* fieldOf(QWidget* widget);
     /// Whether the widget is a text field that has something to undo (redo) itself, and may be changed.
     static bool canUndo(const QWidget* field);
     static bool canRedo(const QWidget* field);

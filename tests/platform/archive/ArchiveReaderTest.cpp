@@ -78,7 +78,7 @@ void ArchiveReaderTest::referencesToOtherObjectsAreNoElements() {
     reader.beginElement("R");
     reader.readObject();
     reader.endElement();
-    QVERIFY_EXCEPTION_THROWN(reader.beginElement("R"), ArchiveError);
+    QVERIFY_THROWS_EXCEPTION(ArchiveError, reader.beginElement("R"));
 }
 
 void ArchiveReaderTest::recordsMustHaveTheirClass_data() {
@@ -97,7 +97,7 @@ void ArchiveReaderTest::recordsMustHaveTheirClass() {
     QFETCH(QByteArray, element);
     ArchiveReader reader(rootArray("01", element));
     reader.beginRootArray();
-    QVERIFY_EXCEPTION_THROWN(reader.beginElement("R"), ArchiveError);
+    QVERIFY_THROWS_EXCEPTION(ArchiveError, reader.beginElement("R"));
 }
 
 void ArchiveReaderTest::theHeadIsReadWithoutTheRest() {
@@ -115,10 +115,10 @@ void ArchiveReaderTest::theHeadIsReadWithoutTheRest() {
     QVERIFY(head.recordClass.isEmpty());
     QVERIFY(!head.version);
     for (const char* body : {"", "84 01 '@' 85", "84 01 'i' 05"}) {
-        QVERIFY_EXCEPTION_THROWN(readArchiveHead(archiveOf(assemble(body))), ArchiveError);
+        QVERIFY_THROWS_EXCEPTION(ArchiveError, readArchiveHead(archiveOf(assemble(body))));
     }
-    QVERIFY_EXCEPTION_THROWN(readArchiveHead({}), ArchiveError);
-    QVERIFY_EXCEPTION_THROWN(readArchiveHead("<?xml version=\"1.0\"?>"), ArchiveError);
+    QVERIFY_THROWS_EXCEPTION(ArchiveError, readArchiveHead({}));
+    QVERIFY_THROWS_EXCEPTION(ArchiveError, readArchiveHead("<?xml version=\"1.0\"?>"));
 }
 
 void ArchiveReaderTest::mutableTextsAreTexts() {

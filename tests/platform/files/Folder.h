@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <stdexcept>
 
@@ -12,6 +13,13 @@
 /// A folder of its own for one test, with plain Qt access to look at what the code under test did.
 class Folder {
 public:
+    enum class Where {
+        Disk,
+        Memory,  ///< where the system has such a place: for thousands of folders, which are slow on a disk
+    };
+
+    explicit Folder(Where where = Where::Disk) : _folder(templateFor(where)) {}
+
     QString path(const QString& name) const { return _folder.filePath(name); }
     QString path() const { return _folder.path(); }
 
@@ -36,6 +44,12 @@ public:
     }
 
 private:
+    static QString templateFor(Where where) {
+        const QFileInfo memory(QStringLiteral("/dev/shm"));
+        const bool inMemory = where == Where::Memory && memory.isDir() && memory.isWritable();
+        return QDir(inMemory ? memory.filePath() : QDir::tempPath()).filePath(QStringLiteral("files-XXXXXX"));
+    }
+
     QTemporaryDir _folder;
 };
 

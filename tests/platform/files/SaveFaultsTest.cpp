@@ -110,7 +110,7 @@ private:
         return right ? QString() : u"wrong backup"_s;
     }
 
-    Folder _folder;
+    Folder _folder{Folder::Where::Memory};
     Scenario _scenario;
 };
 
@@ -270,6 +270,29 @@ private Q_SLOTS:
         QCOMPARE(attempt.error->reason(), problem);
         QCOMPARE(attempt.error->systemError(), error);
         QCOMPARE(attempt.error->replaced(), problem == SaveProblem::NotDurable);
+        QCOMPARE(attempt.contradiction(outcome), QString());
+    }
+
+    void aCopiedBackupIsFlushedToo_data() {
+        QTest::addColumn<QString>("call");
+        QTest::addColumn<int>("occurrence");
+        QTest::addColumn<SaveProblem>("problem");
+        QTest::newRow("new version flushed") << u"sync"_s << 1 << SaveProblem::Flush;
+        QTest::newRow("copy flushed") << u"sync"_s << 2 << SaveProblem::Backup;
+        QTest::newRow("folder flushed") << u"sync"_s << 3 << SaveProblem::NotDurable;
+        QTest::newRow("copy closed") << u"close"_s << 2 << SaveProblem::Backup;
+        QTest::newRow("copy written") << u"write"_s << 2 << SaveProblem::Backup;
+    }
+    void aCopiedBackupIsFlushedToo() {
+        QFETCH(QString, call);
+        QFETCH(int, occurrence);
+        QFETCH(SaveProblem, problem);
+        Attempt attempt(u"backup by copy"_s);
+        const Outcome outcome = attempt.run([&](const FaultyFileSystem::Call& made) {
+            return made.name == call.toStdString() && made.occurrence == occurrence ? EIO : 0;
+        });
+        QVERIFY(attempt.error);
+        QCOMPARE(attempt.error->reason(), problem);
         QCOMPARE(attempt.contradiction(outcome), QString());
     }
 

@@ -1,0 +1,91 @@
+#include "app/MyDocumentController.h"
+
+#include <QFileInfo>
+#include <QScopeGuard>
+
+#include "app/LoadingWindow.h"
+#include "app/ReminderWindow.h"
+
+namespace sargan {
+
+namespace {
+
+/// Reading goes on in one stretch, so whether it will take longer than 300 ms is told by the size.
+constexpr qint64 bytesReadIn300ms = 12'000'000;
+
+}  // namespace
+
+MyDocumentController::MyDocumentController(const DocumentKinds& kinds, Desk& desk)
+    : DocumentController(kinds, desk) {}
+
+MyDocumentController::~MyDocumentController() = default;
+
+Document* MyDocumentController::newDocumentMenuAction(const QString& action) {
+    for (const DocumentKind& kind : kinds().all())
+        if (action == QLatin1String(kind.newAction)) return newDocument(kind);
+    return nullptr;
+}
+
+Document* MyDocumentController::openFile(const QString& path) {
+    const std::vector<Document*> untouched = untouchedDocuments();
+    if (QFileInfo(path).size() > bytesReadIn300ms) showLoadingWindow();
+    const auto done = qScopeGuard([this] { disposeLoadingWindow(); });
+    Document* document = openDocument(path);
+    if (document) closeLater(untouched);
+    return document;
+}
+
+bool MyDocumentController::applicationOpenUntitledFile() {
+    if (desk().defaults.boolean(QStringLiteral("pense bete"))) penseBeteWindow().bringToFront();
+    if (const auto recent = recentDocuments()) {
+        // An empty list is a list too: it opens nothing, not a new logbook.
+        if (!recent->isEmpty()) openFile(recent->first());
+    } else {
+        newDocument(kinds().standard());
+    }
+    return true;
+}
+
+void MyDocumentController::showLoadingWindow() {
+    if (!_loadingWindow) _loadingWindow = std::make_unique<LoadingWindow>(desk().strings);
+    _loadingWindow->showNow();
+}
+
+void MyDocumentController::disposeLoadingWindow() {
+    _loadingWindow.reset();
+}
+
+bool MyDocumentController::isLoadingWindowShown() const {
+    return _loadingWindow && _loadingWindow->isVisible();
+}
+
+ReminderWindow& MyDocumentController::penseBeteWindow() {
+    if (!_penseBeteWindow) {
+        _penseBeteWindow = std::make_unique<ReminderWindow>(desk());
+        connect(_penseBeteWindow.get(), &ReminderWindow::closed, this,
+                &MyDocumentController::penseBeteClosed);
+    }
+    return *_penseBeteWindow;
+}
+
+std::vector<Document*> MyDocumentController::untouchedDocuments() const {
+    std::vector<Document*> found;
+    for (const auto& document : documents())
+        if (document->path().isEmpty() && !document->isEdited() && !document->canUndo() &&
+            !document->canRedo())
+            found.push_back(document.get());
+    return found;
+}
+
+void MyDocumentController::closeLater(const std::vector<Document*>& untouched) {
+    if (untouched.empty()) return;
+    // The command to open may have come from the very window that gives way.
+    const auto closeThem = [this, untouched] {
+        const std::vector<Document*> now = untouchedDocuments();
+        for (Document* document : untouched)
+            if (std::find(now.begin(), now.end(), document) != now.end()) close(document);
+    };
+    QMetaObject::invokeMethod(this, closeThem, Qt::QueuedConnection);
+}
+
+}  // namespace sargan

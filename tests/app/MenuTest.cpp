@@ -1,0 +1,162 @@
+#include "AppTests.h"
+
+using namespace sargan;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QMenu* menuNamed(const DocumentWindow* window, const QString& title) {
+    for (QMenu* menu : window->findChildren<QMenu*>())
+        if (menu->title() == title) return menu;
+    return nullptr;
+}
+
+QStringList textsOf(const QMenu* menu) {
+    QStringList texts;
+    for (const QAction* action : menu->actions())
+        if (!action->isSeparator()) texts << action->text();
+    return texts;
+}
+
+}  // namespace
+
+class MenuTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void openingAFileTwiceShowsOneWindow() {
+        Desktop desktop;
+        const QString file = desktop.copyOf(u"plongee-v27.carnet"_s, u"a.carnet"_s);
+        desktop.suite.launch({file});
+        const QString link = desktop.path(u"link.carnet"_s);
+        QVERIFY(QFile::link(file, link));
+        desktop.toOpen = {file, link};
+        desktop.trigger(desktop.logbook(), "openDocument");
+        QCOMPARE(desktop.count(), 1);
+        QCOMPARE(desktop.suite.windows().all().size(), std::size_t(1));
+    }
+
+    void severalFilesOpenAtOnce() {
+        Desktop desktop;
+        desktop.suite.launch({desktop.copyOf(u"plongee-v27.carnet"_s, u"a.carnet"_s)});
+        desktop.toOpen = {desktop.copyOf(u"plongee-v26.carnet"_s, u"b.carnet"_s),
+                          desktop.copyOf(u"budget-v1.budget"_s, u"c.budget"_s)};
+        desktop.trigger(desktop.logbook(), "openDocument");
+        QCOMPARE(desktop.count(), 3);
+    }
+
+    void anUntouchedNewDocumentGivesWayToAFile() {
+        Desktop desktop;
+        desktop.suite.launch({});
+        desktop.toOpen = {desktop.copyOf(u"plongee-v27.carnet"_s, u"a.carnet"_s)};
+        desktop.trigger(desktop.logbook(), "openDocument");
+        QTRY_COMPARE(desktop.count(), 1);
+        QCOMPARE(desktop.controller().documents().front()->path(), desktop.toOpen.first());
+    }
+
+    void aNewDocumentWithADiveStays() {
+        Desktop desktop;
+        desktop.suite.launch({});
+        desktop.logbook()->addDive();
+        desktop.toOpen = {desktop.copyOf(u"plongee-v27.carnet"_s, u"a.carnet"_s)};
+        desktop.trigger(desktop.logbook(), "openDocument");
+        QCoreApplication::processEvents();
+        QCOMPARE(desktop.count(), 2);
+    }
+
+    void recentDocumentsAreListedAndCleared() {
+        Desktop desktop;
+        const QString a = desktop.copyOf(u"plongee-v27.carnet"_s, u"a.carnet"_s);
+        const QString b = desktop.copyOf(u"plongee-v26.carnet"_s, u"b.carnet"_s);
+        desktop.suite.launch({a, b});
+        QMenu* recent = menuNamed(desktop.logbook(), u"Open Recent"_s);
+        Q_EMIT recent->aboutToShow();
+        QCOMPARE(textsOf(recent), (QStringList{u"b.carnet"_s, u"a.carnet"_s, u"Clear Menu"_s}));
+        desktop.trigger(desktop.logbook(), "clearRecentDocuments");
+        Q_EMIT recent->aboutToShow();
+        QCOMPARE(textsOf(recent), QStringList{u"Clear Menu"_s});
+    }
+
+    void aRecentDocumentOpensFromTheMenu() {
+        Desktop desktop;
+        const QString a = desktop.copyOf(u"plongee-v27.carnet"_s, u"a.carnet"_s);
+        desktop.suite.launch({a});
+        desktop.controller().newDocument(desktop.desk.kinds.standard());
+        desktop.logbook(1)->addDive();
+        desktop.trigger(desktop.logbook(), "closeDocument");
+        QTRY_COMPARE(desktop.count(), 1);
+        QMenu* recent = menuNamed(desktop.logbook(), u"Open Recent"_s);
+        Q_EMIT recent->aboutToShow();
+        recent->actions().first()->trigger();
+        QCOMPARE(desktop.count(), 2);
+        QCOMPARE(desktop.controller().documents().back()->path(), a);
+    }
+
+    void theWindowMenuListsTheOpenDocuments() {
+        Desktop desktop;
+        desktop.suite.launch({desktop.copyOf(u"plongee-v27.carnet"_s, u"a.carnet"_s),
+                              desktop.copyOf(u"budget-v1.budget"_s, u"b.budget"_s)});
+        QMenu* windows = menuNamed(desktop.logbook(), u"&Window"_s);
+        Q_EMIT windows->aboutToShow();
+        QCOMPARE(textsOf(windows), (QStringList{u"Reminder note"_s, u"a.carnet"_s, u"b.budget"_s}));
+    }
+
+    void aFileDroppedOnAWindowOpens() {
+        Desktop desktop;
+        desktop.suite.launch({desktop.copyOf(u"plongee-v27.carnet"_s, u"a.carnet"_s)});
+        const QString file = desktop.copyOf(u"structures-v0.structures"_s, u"s.structures"_s);
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file)});
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(desktop.logbook(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(desktop.logbook(), &drop);
+        QTRY_COMPARE(desktop.count(), 2);
+        QCOMPARE(desktop.controller().documents().back()->path(), file);
+    }
+
+    void renumberingIsOfferedByEveryOpenLogbook() {
+        Desktop desktop;
+        desktop.suite.launch({desktop.copyOf(u"plongee-v27.carnet"_s, u"a.carnet"_s),
+                              desktop.copyOf(u"plongee-v26.carnet"_s, u"b.carnet"_s)});
+        QStringList posted;
+        desktop.desk.notifications.onPost = [&](const QString& name) { posted << name; };
+        desktop.trigger(desktop.logbook(), "renumDives");
+        QCOMPARE(posted, QStringList{u"renumDives"_s});
+        for (const int at : {0, 1}) {
+            auto* sheet = desktop.logbook(at)->findChild<QDialog*>(u"renumDivesWindow"_s);
+            QVERIFY(sheet && sheet->isVisible());
+            sheet->close();
+        }
+    }
+
+    void aFileThatIsNoDocumentIsRefusedWithASentence() {
+        Desktop desktop;
+        desktop.suite.launch({});
+        const QString file = desktop.path(u"junk.carnet"_s);
+        QFile junk(file);
+        QVERIFY(junk.open(QIODevice::WriteOnly));
+        junk.write("this is no archive");
+        junk.close();
+        QString sentence;
+        try {
+            desktop.controller().read(file);
+        } catch (const std::exception& error) {
+            sentence = QString::fromUtf8(error.what());
+        }
+        QVERIFY(sentence.contains(u"junk.carnet"_s));
+        desktop.desk.prompt.expectAlert(sentence);
+        desktop.toOpen = {file};
+        desktop.trigger(desktop.logbook(), "openDocument");
+        QCOMPARE(desktop.desk.prompt.finish(), QStringList());
+        QCOMPARE(desktop.count(), 1);
+    }
+};
+
+int runMenuTest(int argc, char** argv) {
+    MenuTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "MenuTest.moc"

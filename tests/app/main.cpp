@@ -1,0 +1,7 @@
+#include "AppTests.h"
+#include "support/GuiMain.h"
+
+int main(int argc, char** argv) {
+    return runGuiTests(
+        argc, argv, {runLaunchTest, runMenuTest, runSavingTest, runSingleInstanceTest, runDesktopPromptTest});
+}

@@ -1,0 +1,6 @@
+#include "CalculatorUiTests.h"
+#include "support/GuiMain.h"
+
+int main(int argc, char** argv) {
+    return runGuiTests(argc, argv, {runCalculatorWindowTest, runCalculatorMenuTest});
+}

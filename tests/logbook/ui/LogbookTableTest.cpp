@@ -1,0 +1,192 @@
+#include "LogbookUiTests.h"
+#include "logbook/DiveColumns.h"
+#include "platform/record/Field.h"
+
+using namespace sargan;
+using namespace Qt::StringLiterals;
+
+class LogbookTableTest : public QObject {
+    Q_OBJECT
+
+    static QStringList row(const LogbookOnScreen& logbook, int at) {
+        QStringList cells;
+        const auto* model = logbook.window->table().model();
+        for (int column = 0; column < model->columnCount(); ++column)
+            cells << model->index(at, column).data().toString();
+        return cells;
+    }
+
+    static void search(const LogbookOnScreen& logbook, const char* place, const QString& text) {
+        formwalk::typeInto(logbook.window->findChild<QWidget*>(u"searchField"_s), text);
+        logbook.window->findChild<QAction*>(QLatin1String(place))->trigger();
+    }
+
+private Q_SLOTS:
+    void everyColumnIsNamedAfterTheFieldItShows() {
+        for (const DiveColumn& column : diveColumns())
+            QVERIFY(fieldIndex<Plongee>(PlongeeFields::all, QString::fromLatin1(column.identifier)) >= 0);
+    }
+
+    void aDiveIsShownInWords() {
+        LogbookOnScreen logbook;
+        logbook.carnet->addDive([&] {
+            Form& form = logbook.carnet->form();
+            const QList<std::pair<QString, QString>> values{
+                {u"dateField"_s, u"2016-02-03"_s}, {u"heureField"_s, u"09:15"_s},
+                {u"lieuField"_s, u"Brest"_s},      {u"siteField"_s, u"Le Vioben"_s},
+                {u"tempsField"_s, u"41"_s},        {u"profondeurField"_s, u"23,5"_s},
+                {u"tempEauField"_s, u"13"_s},      {u"decoPopUp"_s, u"2"_s},
+                {u"visibilitePopUp"_s, u"2"_s},    {u"epavesField"_s, u"La Swansea"_s},
+                {u"partenairesField"_s, u"Luc"_s}};
+            for (const auto& [name, value] : values) form.fill(form.find(name), value);
+        });
+        QCOMPARE(row(logbook, 0),
+                 (QStringList{u"1"_s, u"03/02/2016"_s, u"09:15"_s, u"Brest"_s, u"Le Vioben"_s, u"23.5 m"_s,
+                              u"41 '"_s, u"13 °C"_s, u"Computer"_s, u"Good"_s, u"La Swansea"_s, u"Luc"_s}));
+    }
+
+    void aTemperatureThatWasNotRecordedIsADash() {
+        LogbookOnScreen logbook;
+        logbook.carnet->addDive(
+            [&] { logbook.carnet->form().setText(ControlName{"tempEauField"}, u"-50"_s); });
+        QCOMPARE(row(logbook, 0).at(7), u"-"_s);
+    }
+
+    void theSelectionIsTheSameInTableAndDocument() {
+        LogbookOnScreen logbook(5);
+        logbook.clickRow(1);
+        QCOMPARE(logbook.carnet->selection(), Selection{1});
+        logbook.clickRow(3, Qt::ControlModifier);
+        QCOMPARE(logbook.carnet->selection(), (Selection{1, 3}));
+        logbook.carnet->select({0, 1, 4});
+        QCOMPARE(logbook.shownSelection(), (Selection{0, 1, 4}));
+        logbook.action("selectAll")->trigger();
+        QCOMPARE(logbook.carnet->selection().size(), 5);
+        logbook.carnet->select({});
+        QVERIFY(logbook.shownSelection().isEmpty());
+    }
+
+    void aDoubleClickOpensTheDive() {
+        LogbookOnScreen logbook(3);
+        logbook.clickRow(1);
+        const QRect cell = logbook.window->table().visualRect(logbook.window->table().model()->index(1, 3));
+        QTest::mouseDClick(logbook.window->table().viewport(), Qt::LeftButton, {}, cell.center());
+        QVERIFY(logbook.edit() && logbook.edit()->isVisible());
+        QCOMPARE(logbook.field<QLineEdit>("plongeeNoField")->text(), u"2"_s);
+    }
+
+    void theSearchSelectsAndCounts() {
+        LogbookOnScreen logbook(12);
+        const auto* found = logbook.window->findChild<QLabel*>(u"foundDivesField"_s);
+        logbook.carnet->select({0});
+        Form& form = logbook.carnet->form();
+        form.setText(ControlName{"notesField"}, u"A big Grouper"_s);
+        logbook.carnet->updateDive();
+        search(logbook, "findInNotes", u"grouper"_s);
+        QCOMPARE(found->text(), u"One dive found"_s);
+        QCOMPARE(logbook.shownSelection(), Selection{0});
+        search(logbook, "findInBateaux", u""_s);
+        QCOMPARE(found->text(), u"12 dives found"_s);
+        QCOMPARE(logbook.carnet->selection().size(), 12);
+        search(logbook, "findInPartenaires", u"nobody"_s);
+        QCOMPARE(found->text(), u"0 dives found"_s);
+        QVERIFY(logbook.shownSelection().isEmpty());
+    }
+
+    void returnSearchesInTheChosenPlace() {
+        LogbookOnScreen logbook(2);
+        search(logbook, "findInEpaves", u"x"_s);
+        logbook.carnet->select({1});
+        logbook.carnet->form().setText(ControlName{"epavesField"}, u"Rubis"_s);
+        logbook.carnet->updateDive();
+        auto* field = logbook.window->findChild<QLineEdit*>(u"searchField"_s);
+        formwalk::typeInto(field, u"rub"_s);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(logbook.carnet->selection(), Selection{1});
+    }
+
+    void theSearchInComputersEndsInAnAlert() {
+        LogbookOnScreen logbook(1);
+        logbook.desk.prompt.expectAlert(UnknownKeyError(u"ordi"_s, u"Plongee"_s).sentence());
+        search(logbook, "findInOrdinateurs", u"x"_s);
+        QCOMPARE(logbook.desk.prompt.finish(), QStringList());
+    }
+
+    void theTableFollowsTheListWithoutLosingItsPlace_data() {
+        QTest::addColumn<QList<int>>("kept");
+        QTest::newRow("first gone") << QList<int>{1, 2, 3, 4, 5};
+        QTest::newRow("last gone") << QList<int>{0, 1, 2, 3, 4};
+        QTest::newRow("middle gone") << QList<int>{0, 1, 4, 5};
+        QTest::newRow("scattered") << QList<int>{1, 3, 5};
+        QTest::newRow("turned round") << QList<int>{5, 4, 3, 2, 1, 0};
+        QTest::newRow("two exchanged") << QList<int>{0, 2, 1, 3, 4, 5};
+        QTest::newRow("doubled") << QList<int>{0, 1, 1, 2, 3, 3, 3, 4, 5};
+        QTest::newRow("all gone") << QList<int>{};
+        QTest::newRow("the same") << QList<int>{0, 1, 2, 3, 4, 5};
+    }
+    void theTableFollowsTheListWithoutLosingItsPlace() {
+        QFETCH(QList<int>, kept);
+        LogbookOnScreen logbook(6);
+        QAbstractItemModelTester tester(logbook.window->table().model(),
+                                        QAbstractItemModelTester::FailureReportingMode::Fatal);
+        Records<Plongee> list;
+        for (const int at : kept) list.append(logbook.carnet->records()[at]);
+        const auto shownNumbers = [&] {
+            QList<int> numbers;
+            for (int i = 0; i < logbook.window->table().model()->rowCount(); ++i)
+                numbers << row(logbook, i).first().toInt();
+            return numbers;
+        };
+        logbook.carnet->perform(u"test"_s, list, {});
+        QCOMPARE(shownNumbers(), logbook.numbers());
+        logbook.carnet->undo();
+        QCOMPARE(shownNumbers(), (QList<int>{1, 2, 3, 4, 5, 6}));
+    }
+
+    void aClickOnAHeaderDoesNothingYet() {
+        LogbookOnScreen logbook(3);
+        auto* header = logbook.window->table().horizontalHeader();
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionPosition(3) + 10, 8));
+        QVERIFY(logbook.shownSelection().isEmpty());
+        QCOMPARE(logbook.numbers(), (QList<int>{1, 2, 3}));
+    }
+
+    void columnWidthsAreRemembered() {
+        LogbookOnScreen logbook(1);
+        logbook.window->table().setColumnWidth(3, 333);
+        logbook.window->rememberPlace();
+        LogbookWindow again(*logbook.carnet);
+        QCOMPARE(again.table().columnWidth(3), 333);
+    }
+
+    void theStatusLineCounts() {
+        LogbookOnScreen logbook(1);
+        const auto* status = logbook.window->statusBar()->findChild<QLabel*>();
+        QCOMPARE(status->text(), u"1 dive"_s);
+        logbook.addQuietly(2);
+        QCOMPARE(status->text(), u"2 dives · 1 selected"_s);
+    }
+
+    void aHundredThousandDivesStayFluent() {
+        LogbookOnScreen logbook(1);
+        Records<Plongee> many;
+        many.fill(logbook.carnet->records().first(), 100'000);
+        logbook.carnet->perform(u"test"_s, many, {});
+        QElapsedTimer timer;
+        timer.start();
+        for (const int at : {99'999, 0, 50'000, 25'000, 75'000}) {
+            logbook.carnet->select({at});
+            QTest::qWait(0);
+            logbook.window->table().viewport()->repaint();
+        }
+        const qint64 five = timer.elapsed();
+        QVERIFY2(five < 1500, qPrintable(u"five jumps took %1 ms"_s.arg(five)));
+    }
+};
+
+int runLogbookTableTest(int argc, char** argv) {
+    LogbookTableTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "LogbookTableTest.moc"

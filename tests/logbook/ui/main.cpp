@@ -1,0 +1,7 @@
+#include "LogbookUiTests.h"
+#include "support/GuiMain.h"
+
+int main(int argc, char** argv) {
+    return runGuiTests(
+        argc, argv, {runDiveLayoutTest, runDiveEditWindowTest, runLogbookEditingTest, runLogbookTableTest});
+}

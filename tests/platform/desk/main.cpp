@@ -1,0 +1,7 @@
+#include "platform/desk/DeskTests.h"
+#include "support/TestMain.h"
+
+int main(int argc, char** argv) {
+    return runTests(argc, argv,
+                    {runPromptTest, runNotificationCenterTest, runUserDefaultsTest, runUserDefaultsFileTest});
+}

@@ -1,0 +1,8 @@
+#include "platform/document/DocumentTests.h"
+#include "support/TestMain.h"
+
+int main(int argc, char** argv) {
+    return runTests(argc, argv,
+                    {runHistoryTest, runRecordDocumentTest, runDocumentFileTest, runDocumentControllerTest,
+                     runLockedDocumentTest, runPlainDocumentTest, runBadInputTest});
+}

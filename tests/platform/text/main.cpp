@@ -1,0 +1,6 @@
+#include "platform/text/TextTests.h"
+#include "support/TestMain.h"
+
+int main(int argc, char** argv) {
+    return runTests(argc, argv, {runMessageTest, runNumbersTest, runStringsTest, runCatalogueTest});
+}

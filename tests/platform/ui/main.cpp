@@ -1,0 +1,7 @@
+#include "UiTests.h"
+#include "support/GuiMain.h"
+
+int main(int argc, char** argv) {
+    return runGuiTests(argc, argv,
+                       {runFormViewTest, runFormViewWalkTest, runMomentFieldTest, runPlainWindowTest});
+}
