@@ -9,6 +9,8 @@ namespace sargan {
 
 class DesktopSuite;
 class DocumentWindow;
+class Strings;
+struct DocumentKind;
 
 /// The menu bar of a document window.
 class MainMenu : public QObject {
@@ -47,6 +49,6 @@ private:
 };
 
 /// What a document kind is called on screen: "Logbook".
-QString kindTitle(const struct DocumentKind& kind, const class Strings& strings);
+QString kindTitle(const DocumentKind& kind, const Strings& strings);
 
 }  // namespace sargan

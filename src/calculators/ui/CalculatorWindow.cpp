@@ -31,6 +31,7 @@ CalculatorWindow::CalculatorWindow(const CalculatorSpec& spec, Desk& desk)
     connect(new QShortcut(QKeySequence(u"Ctrl+Shift+C"_s), this), &QShortcut::activated, this,
             &CalculatorWindow::copyResults);
     connect(&_calculator.form(), &Form::changed, this, &CalculatorWindow::showPaneOf);
+    connect(&_calculator.form(), &Form::changed, this, &CalculatorWindow::growLater);
     _calculator.controller().onShowWindow = [this] { bringToFront(); };
     restoreSize();
 }
@@ -51,6 +52,7 @@ void CalculatorWindow::build() {
     _marks = new ResultMarks(_calculator.form(), _desk, _view);
     markDefaultButtons();
     setCentralWidget(content);
+    if (isVisible()) content->show();
     if (_tabs) showPaneOf(_calculator.form()[ControlName{spec.paneControl}]);
 }
 
@@ -140,6 +142,7 @@ void CalculatorWindow::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
     // A view that was hidden has just written its labels anew.
     _marks->updateAll();
+    growLater();
 }
 
 void CalculatorWindow::closeEvent(QCloseEvent* event) {
@@ -153,15 +156,27 @@ QString CalculatorWindow::placeKey() const {
 
 void CalculatorWindow::restoreSize() {
     const QJsonObject place = _desk.defaults.value(placeKey()).toObject();
-    QSize size(place[u"width"_s].toInt(), place[u"height"_s].toInt());
-    if (place.isEmpty()) {
-        // Scroll areas ask for less than they hold; a calculator is to be seen whole.
-        size = sizeHint();
-        for (const QScrollArea* pane : _view->findChildren<QScrollArea*>())
-            size = size.expandedTo(pane->widget()->sizeHint() + QSize(40, 90));
-        size = size.expandedTo(QSize(420, 0));
-    }
+    const QSize size = place.isEmpty() ? sizeHint().expandedTo(QSize(460, 240))
+                                       : QSize(place[u"width"_s].toInt(), place[u"height"_s].toInt());
     resize(size.expandedTo(QSize(280, 160)).boundedTo(screen()->availableSize() - QSize(20, 40)));
+}
+
+void CalculatorWindow::growLater() {
+    if (std::exchange(_growing, true)) return;
+    // Once for all results of a press, when their labels know how much room they want.
+    QMetaObject::invokeMethod(this, &CalculatorWindow::growToFit, Qt::QueuedConnection);
+}
+
+void CalculatorWindow::growToFit() {
+    _growing = false;
+    if (!isVisible() || isMaximized() || isFullScreen()) return;
+    QSize lacking(0, 0);
+    for (const QScrollArea* pane : _view->findChildren<QScrollArea*>()) {
+        pane->widget()->layout()->activate();
+        lacking = lacking.expandedTo(pane->widget()->minimumSizeHint() - pane->viewport()->size());
+    }
+    if (lacking.isNull()) return;
+    resize((size() + lacking).boundedTo(screen()->availableSize()));
 }
 
 }  // namespace sargan

@@ -40,6 +40,8 @@ private:
     void showPaneOf(int control);
     void markDefaultButtons();
     void restoreSize();
+    void growLater();
+    void growToFit();
     QString nextAction() const;
     QString placeKey() const;
 
@@ -48,6 +50,7 @@ private:
     FormView* _view = nullptr;
     ResultMarks* _marks = nullptr;
     QTabBar* _tabs = nullptr;  ///< null for a window of one pane
+    bool _growing = false;
 };
 
 }  // namespace sargan

@@ -84,14 +84,15 @@ void ArchiveOutput::unshared(QByteArrayView text) {
 }
 
 void ArchiveOutput::shared(QByteArrayView text) {
-    const bool simple = text.size() == 1 && uchar(text[0]) < _simpleTypes.size();
-    if (simple && _simpleTypes[size_t(text[0])] != noItem) return reference(_simpleTypes[size_t(text[0])]);
+    const size_t letter = text.size() == 1 ? uchar(text[0]) : _simpleTypes.size();
+    const bool isSimple = letter < _simpleTypes.size();
+    if (isSimple && _simpleTypes[letter] != noItem) return reference(_simpleTypes[letter]);
     const QByteArray key(text.data(), text.size());
     const auto known = _strings.constFind(key);
     if (known != _strings.constEnd()) return reference(*known);
     const quint32 index = quint32(_strings.size());
     _strings.insert(key, index);
-    if (simple) _simpleTypes[size_t(text[0])] = index;
+    if (isSimple) _simpleTypes[letter] = index;
     byte(archivetag::newItem);
     unshared(text);
 }

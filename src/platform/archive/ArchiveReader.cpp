@@ -1,25 +1,12 @@
 #include "platform/archive/ArchiveReader.h"
 
-#include <QHash>
 #include <vector>
 
-#include "platform/archive/ArchiveWalker.h"
-#include "platform/archive/NumberDecoder.h"
+#include "platform/archive/SlotReader.h"
 
 using namespace Qt::StringLiterals;
 
 namespace sargan {
-
-namespace {
-
-/// Values at least this long in the file are remembered, so that reading through many references to one
-/// takes no longer than reading the file; shorter ones are decoded again, or remembered up to a limit.
-constexpr qint64 longValue = 64;
-constexpr qsizetype mostShortValues = 65536;
-/// Objects around a slot's value: the root array and the record.
-constexpr int slotDepth = 2;
-
-}  // namespace
 
 class ArchiveReader::Impl {
 public:
@@ -29,11 +16,6 @@ public:
     Element beginElement(const char* className);
     void endElement();
     void endRootArray();
-
-    QString text(ArchivedObject& kept);
-    Moment moment(ArchivedObject& kept);
-    NumberArray numbers(ArchivedObject& kept);
-    ArchivedObject object();
 
     /// Runs a read and adds to its error where in the records it happened.
     template <typename Read>
@@ -46,44 +28,29 @@ public:
     }
 
     ItemReader& items() { return _items; }
+    SlotReader& slotReader() { return _slotReader; }
     qint32 version() const { return _version; }
     void setSlot(const char* name) { _slot = name; }
 
 private:
-    /// A slot's object: complete in the tables when new and `whole`, else its head only.
-    ObjectHead slotHead();
-    quint32 classOf(const ObjectHead& head) const;
-    ArchivedObject keep(const ObjectHead& head);
-    void passOver(const ObjectHead& head);
-    void grow(int height) { _recordHeight = qMax(_recordHeight, height); }
-    void requireUnknown(const ObjectHead& head, quint32 cls, const char* expected) const;
-    QString textContents(const ObjectHead& head);
-    NumberArray arrayContents(const ObjectHead& head);
-    void finishContents(const ObjectHead& head, int height, bool derived);
-    QString textByReference(quint32 index);
-    NumberArray arrayByReference(quint32 index);
-    std::optional<double> dateOf(quint32 index) const;
     void requireRecordClass(quint32 cls, const char* className, qint64 offset);
     QString place() const;
 
     std::shared_ptr<Archive> _archive;
     ItemReader _items;
-    NumberRun _run{_items};
+    SlotReader _slotReader{_items, *_archive};
     ObjectHead _root;
     ObjectHead _record;
     quint32 _count = 0;
     quint32 _begun = 0;
     bool _inRecord = false;
     int _rootHeight = 0;
-    int _recordHeight = 0;
     std::vector<quint32> _records;
     quint32 _recordClass = noIndex;
+    QByteArray _recordClassName;
     qint32 _version = 0;
     const char* _className = "";
     const char* _slot = nullptr;
-    QHash<quint32, QString> _texts;
-    QHash<quint32, NumberArray> _arrays;
-    qsizetype _shortArrays = 0;  ///< among those remembered
 };
 
 ArchiveReader::Impl::Impl(QByteArray bytes)
@@ -104,7 +71,7 @@ quint32 ArchiveReader::Impl::beginRootArray() {
 }
 
 void ArchiveReader::Impl::requireRecordClass(quint32 cls, const char* className, qint64 offset) {
-    if (cls == _recordClass) return;
+    if (cls == _recordClass && _recordClassName == className) return;
     const ClassInfo info = _items.tables().classAt(cls);
     const bool rooted = info.super != noIndex && _items.entry(info.super).family() == ClassFamily::Object &&
                         _items.entry(cls).chainLength() == 2;
@@ -113,6 +80,7 @@ void ArchiveReader::Impl::requireRecordClass(quint32 cls, const char* className,
                     u"one of class %1"_s.arg(QString::fromUtf8(info.name)));
     }
     _recordClass = cls;
+    _recordClassName = className;
     _version = info.version;
 }
 
@@ -138,15 +106,15 @@ ArchiveReader::Element ArchiveReader::Impl::beginElement(const char* className) 
     }
     requireRecordClass(head.cls, className, head.offset);
     _record = head;
-    _recordHeight = 0;
     _records.push_back(head.index);
     return {true, quint32(_records.size() - 1)};
 }
 
 void ArchiveReader::Impl::endElement() {
     _slot = nullptr;
-    _items.objectEnd(_record, _recordHeight + 1);
-    _rootHeight = qMax(_rootHeight, _recordHeight + 1);
+    const int height = _slotReader.takeHeight() + 1;
+    _items.objectEnd(_record, height);
+    _rootHeight = qMax(_rootHeight, height);
     _inRecord = false;
 }
 
@@ -157,142 +125,6 @@ void ArchiveReader::Impl::endRootArray() {
     _items.objectEnd(_root, _rootHeight + 1);
     _archive->_tables->root = _root.index;
     _items.endOfFile();
-}
-
-ObjectHead ArchiveReader::Impl::slotHead() {
-    _items.groupOf('@', "an object");
-    return _items.objectHead();
-}
-
-quint32 ArchiveReader::Impl::classOf(const ObjectHead& head) const {
-    return head.what == ObjectHead::New ? head.cls : _items.tables().classOfObject(head.index);
-}
-
-void ArchiveReader::Impl::passOver(const ObjectHead& head) {
-    if (head.what == ObjectHead::New) ArchiveWalker(_items, nullptr, slotDepth).contents(head);
-    grow(_items.entry(head.index).height());
-}
-
-ArchivedObject ArchiveReader::Impl::keep(const ObjectHead& head) {
-    passOver(head);
-    return _archive->objectAt(head.index);
-}
-
-void ArchiveReader::Impl::requireUnknown(const ObjectHead& head, quint32 cls, const char* expected) const {
-    const ObjectEntry entry = _items.entry(cls);
-    if (entry.family() == ClassFamily::Unknown || entry.isDerived()) return;
-    failArchive(head.offset, expected,
-                u"an object of class %1"_s.arg(QString::fromUtf8(_items.tables().classAt(cls).name)));
-}
-
-void ArchiveReader::Impl::finishContents(const ObjectHead& head, int height, bool derived) {
-    if (derived) height = qMax(height, ArchiveWalker(_items, nullptr, slotDepth + 1).groups());
-    _items.objectEnd(head, height + 1);
-    grow(height + 1);
-}
-
-QString ArchiveReader::Impl::textContents(const ObjectHead& head) {
-    const QByteArrayView text = ArchiveWalker(_items).text();
-    finishContents(head, 0, _items.entry(head.cls).isDerived());
-    return QString::fromUtf8(text);
-}
-
-QString ArchiveReader::Impl::textByReference(quint32 index) {
-    grow(_items.entry(index).height());
-    const auto known = _texts.constFind(index);
-    if (known != _texts.constEnd()) return *known;
-    const QString text = _archive->objectAt(index).asText();
-    if (text.size() >= longValue || _texts.size() < mostShortValues) _texts.insert(index, text);
-    return text;
-}
-
-QString ArchiveReader::Impl::text(ArchivedObject& kept) {
-    kept = {};
-    const ObjectHead head = slotHead();
-    if (head.what == ObjectHead::Nil) return {};
-    const quint32 cls = classOf(head);
-    if (_items.entry(cls).family() == ClassFamily::String) {
-        return head.what == ObjectHead::New ? textContents(head) : textByReference(head.index);
-    }
-    requireUnknown(head, cls, "a text");
-    kept = keep(head);
-    return {};
-}
-
-std::optional<double> ArchiveReader::Impl::dateOf(quint32 index) const {
-    ItemReader items(_items.tables(), index);
-    items.objectHead();
-    if (items.at.peek("a group") == archivetag::end || items.groupType() != "d") return std::nullopt;
-    return items.at.takeDouble();
-}
-
-Moment ArchiveReader::Impl::moment(ArchivedObject& kept) {
-    kept = {};
-    const ObjectHead head = slotHead();
-    if (head.what == ObjectHead::Nil) return {};
-    const quint32 cls = classOf(head);
-    const ObjectEntry entry = _items.entry(cls);
-    if (entry.family() != ClassFamily::Date) {
-        requireUnknown(head, cls, "a date");
-        kept = keep(head);
-        return {};
-    }
-    if (!entry.isDerived() && head.what == ObjectHead::New) {
-        _items.groupOf('d', "a date");
-        const double seconds = _items.at.takeDouble();
-        finishContents(head, 0, false);
-        return Moment::fromSeconds(seconds);
-    }
-    passOver(head);
-    if (entry.isDerived()) kept = _archive->objectAt(head.index);
-    const std::optional<double> seconds = dateOf(head.index);
-    if (!seconds && !entry.isDerived()) failArchive(head.offset, "a date", u"one without seconds"_s);
-    return seconds ? Moment::fromSeconds(*seconds) : Moment();
-}
-
-NumberArray ArchiveReader::Impl::arrayContents(const ObjectHead& head) {
-    const qint64 start = head.offset;
-    int height = 0;
-    NumberArray numbers = NumberDecoder(_items, &_run, *_archive, slotDepth + 1).elements(height);
-    finishContents(head, height, _items.entry(head.cls).isDerived());
-    if (_items.at.offset() - start >= longValue) _arrays.insert(head.index, numbers);
-    return numbers;
-}
-
-NumberArray ArchiveReader::Impl::arrayByReference(quint32 index) {
-    grow(_items.entry(index).height());
-    const auto known = _arrays.constFind(index);
-    if (known != _arrays.constEnd()) return *known;
-    ItemReader items(_items.tables(), index);
-    const ObjectHead head = items.objectHead();
-    int height = 0;
-    const NumberArray numbers = NumberDecoder(items, nullptr, *_archive, slotDepth + 1).elements(height);
-    if (items.at.offset() - head.offset >= longValue || _shortArrays++ < mostShortValues) {
-        _arrays.insert(index, numbers);
-    }
-    return numbers;
-}
-
-NumberArray ArchiveReader::Impl::numbers(ArchivedObject& kept) {
-    kept = {};
-    const ObjectHead head = slotHead();
-    if (head.what == ObjectHead::Nil) return {};
-    const quint32 cls = classOf(head);
-    const ObjectEntry entry = _items.entry(cls);
-    if (entry.family() != ClassFamily::Array) {
-        requireUnknown(head, cls, "an array of numbers");
-        kept = keep(head);
-        return {};
-    }
-    const NumberArray numbers =
-        head.what == ObjectHead::New ? arrayContents(head) : arrayByReference(head.index);
-    if (entry.isDerived()) kept = _archive->objectAt(head.index);
-    return numbers;
-}
-
-ArchivedObject ArchiveReader::Impl::object() {
-    const ObjectHead head = slotHead();
-    return head.what == ObjectHead::Nil ? ArchivedObject() : keep(head);
 }
 
 ArchiveReader::ArchiveReader(QByteArray bytes) : _impl(std::make_unique<Impl>(std::move(bytes))) {}
@@ -338,19 +170,19 @@ float ArchiveReader::readFloat() {
 }
 
 QString ArchiveReader::readText(ArchivedObject& kept) {
-    return _impl->located([&] { return _impl->text(kept); });
+    return _impl->located([&] { return _impl->slotReader().text(kept); });
 }
 
 Moment ArchiveReader::readMoment(ArchivedObject& kept) {
-    return _impl->located([&] { return _impl->moment(kept); });
+    return _impl->located([&] { return _impl->slotReader().moment(kept); });
 }
 
 NumberArray ArchiveReader::readNumbers(ArchivedObject& kept) {
-    return _impl->located([&] { return _impl->numbers(kept); });
+    return _impl->located([&] { return _impl->slotReader().numbers(kept); });
 }
 
 ArchivedObject ArchiveReader::readObject() {
-    return _impl->located([&] { return _impl->object(); });
+    return _impl->located([&] { return _impl->slotReader().object(); });
 }
 
 qint64 ArchiveReader::offset() const {

@@ -31,7 +31,7 @@ QString describeByte(uchar byte) {
         default:
             break;
     }
-    const bool reserved = qint8(byte) < archivetag::leastBareValue;
+    const bool reserved = signedByte(byte) < archivetag::leastBareValue;
     return (reserved ? u"the reserved byte %1"_s : u"the byte %1"_s).arg(uint(byte), 2, 16, QChar(u'0'));
 }
 
@@ -65,7 +65,7 @@ qint64 ByteCursor::takeWideSigned(uchar head, const char* expected) {
 
 quint64 ByteCursor::takeUnsigned(const char* expected) {
     const uchar head = take(expected);
-    if (qint8(head) >= archivetag::leastBareValue) return head;
+    if (signedByte(head) >= archivetag::leastBareValue) return head;
     switch (head) {
         case archivetag::int16:
             return takeRaw<quint16>(expected);

@@ -23,6 +23,11 @@ inline constexpr int leastBareValue = -110;
 inline constexpr int referenceBase = -110;
 }  // namespace archivetag
 
+/// A byte as the signed number that it is as a head byte.
+constexpr int signedByte(uchar byte) {
+    return byte < 0x80 ? int(byte) : int(byte) - 0x100;
+}
+
 /// Throws an ArchiveError that says what was expected at `offset` and what was found there.
 [[noreturn]] void failArchive(qint64 offset, const QString& expected, const QString& found);
 [[noreturn]] void failArchive(qint64 offset, const char* expected, const QString& found);
@@ -64,7 +69,7 @@ public:
     qint64 takeSigned(const char* expected) { return takeSignedAfter(take(expected), expected); }
     /// The same when its head byte has been taken.
     qint64 takeSignedAfter(uchar head, const char* expected) {
-        if (qint8(head) >= archivetag::leastBareValue) return qint8(head);
+        if (signedByte(head) >= archivetag::leastBareValue) return signedByte(head);
         return takeWideSigned(head, expected);
     }
     /// An integer of any width, zero-extended.

@@ -214,7 +214,7 @@ void NumberArray::appendRawBool(qint8 value) {
     appendBits(_storage, NumberKind::Bool, quint8(value));
 }
 
-void NumberArray::appendKept(ArchivedObject object) {
+void NumberArray::appendKept(const ArchivedObject& object) {
     ownWithRoom(_storage, char(NumberKind::Kept));
     const quint64 source = _storage->sourceNumber(object.archive());
     _storage->put(char(NumberKind::Kept), source << 32 | object.index());

@@ -56,7 +56,7 @@ public:
     void appendLongLong(qint64 value);
     void appendBool(bool value);
     void appendRawBool(qint8 value);  ///< kind `c` with any byte, as an archive may hold it
-    void appendKept(ArchivedObject object);
+    void appendKept(const ArchivedObject& object);
     void clear();  ///< leaves an empty (not absent) list
 
     /// Same length, same kinds, same bits; kept objects by identity.

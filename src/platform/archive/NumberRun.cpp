@@ -56,8 +56,10 @@ inline bool quickValue(const uchar*& at, T& value) {
             return true;
         }
     }
-    if (qint8(*at) >= archivetag::leastBareValue) {
-        value = T(qint8(*at++));
+    const int bare = signedByte(*at);
+    if (bare >= archivetag::leastBareValue) {
+        value = T(bare);
+        ++at;
         return true;
     }
     return wideValue(at, value);
@@ -88,6 +90,11 @@ bool quickBits(const uchar*& at, NumberKind kind, quint64& bits) {
             break;
     }
     return false;
+}
+
+/// Whether eight bytes are one reference four times, as where a number comes again and again.
+bool isFourTimes(quint64 bytes, int length) {
+    return length == 2 && bytes == (bytes & 0xffff) * 0x0001000100010001;
 }
 
 }  // namespace
@@ -128,7 +135,7 @@ public:
     };
     Reference reference(quint64 bytes) const {
         const uchar head = uchar(bytes >> 8);
-        qint64 index = qint8(head);
+        qint64 index = signedByte(head);
         int length = 2;
         if (index < archivetag::leastBareValue) {
             if (head != archivetag::int16 && head != archivetag::int32) return {{}, 0};
@@ -239,16 +246,9 @@ quint32 NumberRun::takePacked(NumberArrayBuilder& builder, quint32 most, const S
         const uchar* at = window.begin + reference.entry.valueOffset();
         T value{};
         if (!quickValue(at, value)) break;
-        // Where one number comes again and again, four references are one load.
-        const quint64 fourTimes = (bytes & 0xffff) * 0x0001000100010001;
-        if (reference.length == 2 && bytes == fourTimes && end - out >= 4) {
-            std::fill_n(out, 4, value);
-            window.at += 8;
-            out += 4;
-            continue;
-        }
-        window.at += reference.length;
-        *out++ = value;
+        const qsizetype times = isFourTimes(bytes, reference.length) && end - out >= 4 ? 4 : 1;
+        out = std::fill_n(out, times, value);
+        window.at += times * reference.length;
     }
     const auto taken = out - builder.packedEnd<T>();
     builder.grew(taken);

@@ -14,17 +14,23 @@ constexpr uchar objectType = 0x92;  // the first shared string, "@"
 /// Whole and within 32 bits, where the conversion is defined and quick. Minus zero is not.
 template <typename T>
 bool isWhole32(T value) {
-    if constexpr (!std::is_floating_point_v<T>) return value == qint64(qint32(value));
-    if (!(value >= T(-2147483648.0) && value < T(2147483648.0))) return false;
-    const qint32 whole = qint32(value);
-    return T(whole) == value && (whole != 0 || !std::signbit(value));
+    if constexpr (std::is_floating_point_v<T>) {
+        if (!(value >= T(-2147483648.0) && value < T(2147483648.0))) return false;
+        const qint32 whole = qint32(value);
+        return T(whole) == value && (whole != 0 || !std::signbit(value));
+    } else {
+        return sizeof(T) <= sizeof(qint32) || qint32(value) == value;
+    }
 }
 
 /// Whole but past 32 bits.
 template <typename T>
 bool isWideWhole(T value) {
-    if constexpr (!std::is_floating_point_v<T>) return value != qint64(qint32(value));
-    return std::abs(value) >= T(2147483648.0) && std::isfinite(value) && value == std::trunc(value);
+    if constexpr (std::is_floating_point_v<T>) {
+        return std::abs(value) >= T(2147483648.0) && std::isfinite(value) && value == std::trunc(value);
+    } else {
+        return !isWhole32(value);
+    }
 }
 
 template <typename T>

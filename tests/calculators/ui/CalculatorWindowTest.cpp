@@ -1,5 +1,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QScrollArea>
 #include <QTest>
 
 #include "CalculatorUiTests.h"
@@ -238,22 +239,43 @@ private Q_SLOTS:
         for (const CalculatorSpec& spec : calculatorSpecs())
             QTest::newRow(spec.layout.name) << QString::fromLatin1(spec.layout.name);
     }
-    /// In either language nothing is cut off or needs scrolling in the window's first size.
+    /// In either language nothing is cut off or needs scrolling, neither at first nor with results.
     void eachWindowShowsAllOfItself() {
         QFETCH(QString, window);
         for (const auto language : {Strings::Language::English, Strings::Language::French}) {
             WindowBench bench(language);
             bench.open(window.toLatin1());
+            QCoreApplication::processEvents();
+            checkRoom(*bench.window);
             for (const char* action : bench.window->calculator().spec().actions)
                 bench.window->calculator().form().press(QLatin1String(action));
+            QCoreApplication::processEvents();
+            checkRoom(*bench.window);
             for (const ControlSpec& control : bench.window->calculator().spec().controls)
                 QVERIFY2(bench.window->findChild<QWidget*>(QLatin1String(control.name)), control.name);
-            const QString folder = qEnvironmentVariable("SARGAN_PICTURES");
-            if (!folder.isEmpty())
-                bench.window->grab().save(
-                    folder + u'/' + window +
-                    (language == Strings::Language::English ? u"-en.png"_s : u"-fr.png"_s));
+            keepPicture(*bench.window, language);
         }
+    }
+
+private:
+    static void checkRoom(const CalculatorWindow& window) {
+        for (const QScrollArea* pane : window.view().findChildren<QScrollArea*>()) {
+            const QSize needed = pane->widget()->minimumSizeHint();
+            const QSize room = pane->viewport()->size();
+            QVERIFY2(needed.width() <= room.width() && needed.height() <= room.height(),
+                     qPrintable(pane->objectName()));
+        }
+        for (const QLabel* label : window.view().findChildren<QLabel*>())
+            if (label->isVisible())
+                QVERIFY2(label->width() >= label->minimumSizeHint().width(), qPrintable(label->text()));
+    }
+
+    /// For the documentation and for those who want to look: set SARGAN_PICTURES to a folder.
+    static void keepPicture(CalculatorWindow& window, Strings::Language language) {
+        const QString folder = qEnvironmentVariable("SARGAN_PICTURES");
+        if (folder.isEmpty()) return;
+        const QString ending = language == Strings::Language::English ? u"-en.png"_s : u"-fr.png"_s;
+        QVERIFY(window.grab().save(folder + u'/' + window.objectName() + ending));
     }
 };
 

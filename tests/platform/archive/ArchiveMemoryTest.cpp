@@ -18,6 +18,8 @@ namespace {
 
 #ifdef __SANITIZE_ADDRESS__
 constexpr bool underSanitizer = true;
+#elif defined(__has_feature)
+constexpr bool underSanitizer = __has_feature(address_sanitizer);
 #else
 constexpr bool underSanitizer = false;
 #endif

@@ -15,7 +15,11 @@ namespace {
 
 const QString name = u"a.sample"_s;
 
+using Damage = std::function<QByteArray(QByteArray)>;
+
 }  // namespace
+
+Q_DECLARE_METATYPE(Damage)
 
 class DocumentFileTest : public QObject {
     Q_OBJECT
@@ -126,7 +130,6 @@ private Q_SLOTS:
     }
 
     void whatDoesNotReadBackIsNotWritten_data() {
-        using Damage = std::function<QByteArray(QByteArray)>;
         QTest::addColumn<Damage>("damage");
         const auto row = [](const char* what, Damage damage) { QTest::newRow(what) << damage; };
         row("nothing", [](QByteArray) { return QByteArray(); });
@@ -140,7 +143,7 @@ private Q_SLOTS:
         });
     }
     void whatDoesNotReadBackIsNotWritten() {
-        QFETCH(std::function<QByteArray(QByteArray)>, damage);
+        QFETCH(Damage, damage);
         _document->saveAs(path());
         const QByteArray before = onDisk();
         _document->append(2);
@@ -246,8 +249,6 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(_document->path()).isAbsolute());
     }
 };
-
-Q_DECLARE_METATYPE(std::function<QByteArray(QByteArray)>)
 
 int runDocumentFileTest(int argc, char** argv) {
     DocumentFileTest test;

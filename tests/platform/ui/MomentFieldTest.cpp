@@ -80,18 +80,16 @@ private Q_SLOTS:
         QCOMPARE(field.moment().iso(), u"2016-06-07T09:05:00"_s);
     }
 
-    void typingTheSameAgainChangesNothing() {
-        MomentField field(MomentField::Part::TimeOfDay, nullptr);
-        // A fraction that no date-time holds must survive.
-        const Moment exact = Moment::fromSeconds(487'000'000.123456789);
-        field.setMoment(exact);
-        const QString shown = field.text();
-        QTest::keyClick(&field, Qt::Key_End);
-        QTest::keyClick(&field, Qt::Key_Backspace);
-        field.setMoment(exact);
-        field.setText(shown);
-        QTest::keyClicks(&field, u" "_s);
-        QVERIFY(field.moment().local().time().minute() == exact.local().time().minute());
+    void anEditThatMeansTheSameKeepsEveryBit() {
+        for (const auto part : {MomentField::Part::Day, MomentField::Part::TimeOfDay}) {
+            MomentField field(part, nullptr);
+            // A fraction that no date-time holds must survive.
+            const Moment exact = Moment::fromSeconds(487'000'000.123456789);
+            field.setMoment(exact);
+            QTest::keyClick(&field, Qt::Key_End);
+            QTest::keyClicks(&field, u" "_s);
+            QCOMPARE(field.moment(), exact);
+        }
     }
 
     void showingAMomentNeverChangesIt() {
