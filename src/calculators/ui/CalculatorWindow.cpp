@@ -31,7 +31,6 @@ CalculatorWindow::CalculatorWindow(const CalculatorSpec& spec, Desk& desk)
     connect(new QShortcut(QKeySequence(u"Ctrl+Shift+C"_s), this), &QShortcut::activated, this,
             &CalculatorWindow::copyResults);
     connect(&_calculator.form(), &Form::changed, this, &CalculatorWindow::showPaneOf);
-    connect(&_calculator.form(), &Form::changed, this, &CalculatorWindow::growLater);
     _calculator.controller().onShowWindow = [this] { bringToFront(); };
     restoreSize();
 }
@@ -51,6 +50,8 @@ void CalculatorWindow::build() {
     column->addWidget(copyRow());
     _marks = new ResultMarks(_calculator.form(), _desk, _view);
     markDefaultButtons();
+    for (const QScrollArea* pane : _view->findChildren<QScrollArea*>())
+        pane->widget()->installEventFilter(this);
     setCentralWidget(content);
     if (isVisible()) content->show();
     if (_tabs) showPaneOf(_calculator.form()[ControlName{spec.paneControl}]);
@@ -161,9 +162,13 @@ void CalculatorWindow::restoreSize() {
     resize(size.expandedTo(QSize(280, 160)).boundedTo(screen()->availableSize() - QSize(20, 40)));
 }
 
+bool CalculatorWindow::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) growLater();
+    return false;
+}
+
 void CalculatorWindow::growLater() {
     if (std::exchange(_growing, true)) return;
-    // Once for all results of a press, when their labels know how much room they want.
     QMetaObject::invokeMethod(this, &CalculatorWindow::growToFit, Qt::QueuedConnection);
 }
 
@@ -171,10 +176,8 @@ void CalculatorWindow::growToFit() {
     _growing = false;
     if (!isVisible() || isMaximized() || isFullScreen()) return;
     QSize lacking(0, 0);
-    for (const QScrollArea* pane : _view->findChildren<QScrollArea*>()) {
-        pane->widget()->layout()->activate();
+    for (const QScrollArea* pane : _view->findChildren<QScrollArea*>())
         lacking = lacking.expandedTo(pane->widget()->minimumSizeHint() - pane->viewport()->size());
-    }
     if (lacking.isNull()) return;
     resize((size() + lacking).boundedTo(screen()->availableSize()));
 }

@@ -28,6 +28,8 @@ public:
     void pressNext();
     void copyResults() const;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 protected:
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;

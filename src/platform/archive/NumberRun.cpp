@@ -171,8 +171,7 @@ void NumberRun::learn(const ObjectHead& number, const uchar* group, quint32 stri
     if (length > longestStart) return;
     uchar bytes[longestStart] = {};
     std::memcpy(bytes, group, size_t(length));
-    int typeLength = 0;
-    while (bytes[typeLength] != archivetag::newItem) ++typeLength;
+    const int typeLength = int(tables.begin() + number.offset - group);
     Start& start = _starts[size_t(placeOf(kind))];
     start.low = loadLittle<quint64>(bytes);
     start.high = loadLittle<quint64>(bytes + 8);

@@ -1,6 +1,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 
 #include "CalculatorUiTests.h"
@@ -245,12 +246,10 @@ private Q_SLOTS:
         for (const auto language : {Strings::Language::English, Strings::Language::French}) {
             WindowBench bench(language);
             bench.open(window.toLatin1());
-            QCoreApplication::processEvents();
-            checkRoom(*bench.window);
+            QTRY_COMPARE(cutOff(*bench.window), QString());
             for (const char* action : bench.window->calculator().spec().actions)
                 bench.window->calculator().form().press(QLatin1String(action));
-            QCoreApplication::processEvents();
-            checkRoom(*bench.window);
+            QTRY_COMPARE(cutOff(*bench.window), QString());
             for (const ControlSpec& control : bench.window->calculator().spec().controls)
                 QVERIFY2(bench.window->findChild<QWidget*>(QLatin1String(control.name)), control.name);
             keepPicture(*bench.window, language);
@@ -258,16 +257,19 @@ private Q_SLOTS:
     }
 
 private:
-    static void checkRoom(const CalculatorWindow& window) {
+    /// What is too narrow or scrolls; empty when all is in view.
+    static QString cutOff(const CalculatorWindow& window) {
         for (const QScrollArea* pane : window.view().findChildren<QScrollArea*>()) {
             const QSize needed = pane->widget()->minimumSizeHint();
             const QSize room = pane->viewport()->size();
-            QVERIFY2(needed.width() <= room.width() && needed.height() <= room.height(),
-                     qPrintable(pane->objectName()));
+            const bool scrolls =
+                pane->horizontalScrollBar()->isVisible() || pane->verticalScrollBar()->isVisible();
+            if (scrolls || needed.width() > room.width() || needed.height() > room.height())
+                return pane->objectName();
         }
         for (const QLabel* label : window.view().findChildren<QLabel*>())
-            if (label->isVisible())
-                QVERIFY2(label->width() >= label->minimumSizeHint().width(), qPrintable(label->text()));
+            if (label->isVisible() && label->width() < label->minimumSizeHint().width()) return label->text();
+        return {};
     }
 
     /// For the documentation and for those who want to look: set SARGAN_PICTURES to a folder.

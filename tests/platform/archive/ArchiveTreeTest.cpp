@@ -64,6 +64,7 @@ private Q_SLOTS:
     void picturesAreFoundInside();
     void integersAreRewrittenInTheNarrowestForm();
     void stringsPastTheOneByteReferencesAreFound();
+    void numbersBehindWideTypeReferencesAreFound();
     void keptObjectsAreWrittenOnce();
     void keptObjectsBringWhatTheyReferTo();
     void keptObjectsOfTwoArchivesStandApart();
@@ -260,6 +261,25 @@ void ArchiveTreeTest::stringsPastTheOneByteReferencesAreFound() {
     QCOMPARE(found[303].type, QByteArray(":"));
     QCOMPARE(spell(found[303].values), u"\"299\""_s);
     QCOMPARE(ArchiveWriter::rewrite(*archive), bytes);
+}
+
+void ArchiveTreeTest::numbersBehindWideTypeReferencesAreFound() {
+    // Selectors fill the string table up to 241; then "@" stands there once more as string 242, 81 84 00.
+    QByteArray groups = assemble("84 01 '%' 84 01 'a'");
+    for (int n = 5; n < 242; ++n) groups += assemble("95 84 01 'a'");
+    groups += assemble(
+        "84 01 '@' 85 81 84 00 84 84 84 07 'NSArray' 00 94 84 01 'i' 15"
+        "81 84 00 84 84 84 08 'NSNumber' 00 84 84 07 'NSValue' 00 94 84 01 '*' 84 84 01 'd' 81 8a 00 00 86");
+    for (int n = 1; n <= 20; ++n) {
+        groups += assemble("81 84 00 84 98 81 89 00 9a 81 8a 00") + char(n) + assemble("86");
+    }
+    const auto archive = Archive::read(unknownRoot(groups + assemble("86")));
+    const QList<ArchivedObject> numbers = objectIn(archive->root(), 239).asArray();
+    QCOMPARE(numbers.size(), 21);
+    for (int n = 0; n <= 20; ++n) {
+        QCOMPARE(numbers[n].className(), u"NSNumber"_s);
+        QCOMPARE(spell(numbers[n].groups()[1].values), u"%1."_s.arg(n));
+    }
 }
 
 namespace {

@@ -1,0 +1,70 @@
+#include <QCoreApplication>
+#include <cstdlib>
+
+#include "cli/Suite.h"
+#include "platform/archive/ArchiveError.h"
+#include "platform/document/DocumentError.h"
+#include "platform/record/RecordJson.h"
+
+// Any bytes as a document: they open or are refused with a sentence, never anything else. What opens is
+// shown, saved and read again, and then is the same.
+
+using namespace sargan;
+
+namespace {
+
+class SilentPrompt : public Prompt {
+    void beep() override {}
+    void alert(const QString&) override {}
+    int ask(const QString&, const QStringList& buttons) override { return int(buttons.size()) - 1; }
+    std::unique_ptr<Progress> startProgress(const QString&) override { return nullptr; }
+};
+
+struct Bench {
+    SilentPrompt prompt;
+    UserDefaults defaults;
+    Strings strings;
+    NotificationCenter notifications;
+    Desk desk{prompt, defaults, strings, notifications, Clock(QDateTime(QDate(2016, 6, 7), QTime(14, 30))),
+              Log()};
+    SaveTypes saveTypes = makeSaveTypes();
+    DocumentKinds kinds = makeDocumentKinds(saveTypes);
+};
+
+std::unique_ptr<Document> open(Bench& bench, const QByteArray& bytes) {
+    const DocumentKind& kind = bench.kinds.forContent(bytes, QStringLiteral("any.carnet"));
+    auto document = kind.create(kind, bench.desk);
+    document->readBytes(bytes, kind.currentTypeName(bench.desk));
+    return document;
+}
+
+/// Every dive through the form: whatever a file holds can be shown and stored.
+void walkThroughForm(Carnet& carnet) {
+    for (qsizetype row = 0; row < std::min<qsizetype>(carnet.count(), 8); ++row) {
+        carnet.select({row});
+        carnet.updateDive();
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    static Bench bench;
+    const QByteArray bytes(reinterpret_cast<const char*>(data), qsizetype(size));
+    std::unique_ptr<Document> document;
+    try {
+        document = open(bench, bytes);
+    } catch (const ArchiveError& error) {
+        if (error.sentence().isEmpty() || error.offset() < 0 || error.offset() > bytes.size()) std::abort();
+        return 0;
+    } catch (const DocumentError&) {
+        return 0;
+    }
+    // From here on nothing may throw: what opened can be shown and saved.
+    const QJsonObject shown = document->dump();
+    const QByteArray saved = document->dataRepresentationOfType(document->kind().currentTypeName(bench.desk));
+    const auto again = open(bench, saved);
+    if (again->summary().records != document->summary().records) std::abort();
+    if (auto* carnet = qobject_cast<Carnet*>(document.get())) walkThroughForm(*carnet);
+    return 0;
+}
