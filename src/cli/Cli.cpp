@@ -13,6 +13,10 @@ void complain(const QString& sentence) {
     std::fprintf(stderr, "sargan: %s\n", qUtf8Printable(sentence));
 }
 
+void showUsage(const QString& line) {
+    std::fprintf(stderr, "usage: %s\n", qUtf8Printable(line));
+}
+
 int runCommand(const Command& command, const GlobalOptions& options) {
     try {
         const Arguments arguments(options.rest.mid(1), command.options);
@@ -22,7 +26,7 @@ int runCommand(const Command& command, const GlobalOptions& options) {
         complain(QStringLiteral("standard output takes no more"));
     } catch (const UsageError& error) {
         complain(sentenceOf(error));
-        std::fprintf(stderr, "usage: sargan %s %s\n", command.name, command.usage);
+        showUsage(usageLine(command));
         return wrongUsage;
     } catch (const std::bad_alloc&) {
         complain(QStringLiteral("there is not enough memory for this"));
@@ -37,7 +41,7 @@ int runCommand(const Command& command, const GlobalOptions& options) {
 std::span<const Command> commands() {
     static const std::vector<Command> all = [] {
         std::vector<Command> list;
-        for (const auto part : {documentCommands(), logbookCommands(), calculatorCommands()})
+        for (const auto part : {documentCommands(), logbookCommands(), calculatorCommands(), pageCommands()})
             list.insert(list.end(), part.begin(), part.end());
         return list;
     }();
@@ -54,8 +58,7 @@ bool isCommand(const QStringList& arguments) {
     try {
         const GlobalOptions options = GlobalOptions::take(arguments);
         if (options.help || options.version) return true;
-        const QString name = options.rest.value(0);
-        return findCommand(name) || name == QLatin1String("man") || name == QLatin1String("file-format");
+        return findCommand(options.rest.value(0));
     } catch (const UsageError&) {
         return true;
     }
@@ -70,10 +73,6 @@ int run(const QStringList& arguments) {
             print(QStringLiteral("sargan " SARGAN_VERSION));
         } else if (options.help || name.isEmpty()) {
             print(command ? helpFor(*command) : overallHelp());
-        } else if (name == QLatin1String("man")) {
-            print(manualPage());
-        } else if (name == QLatin1String("file-format")) {
-            print(fileFormatPage());
         } else if (command) {
             return runCommand(*command, options);
         } else {
@@ -83,6 +82,7 @@ int run(const QStringList& arguments) {
         return done;
     } catch (const UsageError& error) {
         complain(sentenceOf(error));
+        showUsage(QStringLiteral("sargan [FILE…], or sargan COMMAND …"));
         return wrongUsage;
     }
 }

@@ -25,10 +25,12 @@ const Command* findCommand(const QString& name);
 std::span<const Command> documentCommands();
 std::span<const Command> logbookCommands();
 std::span<const Command> calculatorCommands();
+std::span<const Command> pageCommands();
 
 /// `sargan --help`, `sargan COMMAND --help`, and the manual page's source, all from the same data.
 QString overallHelp();
 QString helpFor(const Command& command);
+QString usageLine(const Command& command);
 QString manualPage();
 /// docs/file-format.md, printed from the slot tables.
 QString fileFormatPage();

@@ -53,7 +53,7 @@ void runDump(Session& session, const Arguments& arguments) {
         const bool isOwn = type == QLatin1String(kind.typeName);
         document->readBytes(bytes, isOwn ? kind.currentTypeName(session.desk()) : type);
         print(QJsonValue(document->dump()));
-    } catch (const std::exception& error) {
+    } catch (const std::runtime_error& error) {
         throw DocumentError(QStringLiteral("%1: %2").arg(path, sentenceOf(error)));
     }
 }
@@ -91,13 +91,13 @@ void runLoad(Session& session, const Arguments& arguments) {
     const QJsonDocument json = QJsonDocument::fromJson(readFile(path), &error);
     if (error.error != QJsonParseError::NoError)
         throw DocumentError(
-            QStringLiteral("%1: byte %2: %3").arg(path).arg(error.offset).arg(error.errorString()));
+            QStringLiteral("%1: byte %2: %3").arg(path, QString::number(error.offset), error.errorString()));
     if (!json.isObject()) throw DocumentError(QStringLiteral("%1: expected an object").arg(path));
     std::unique_ptr<Document> document;
     try {
         document = documentFromJson(session, json.object());
-    } catch (const JsonError& problem) {
-        throw DocumentError(QStringLiteral("%1: %2").arg(path, problem.sentence()));
+    } catch (const std::runtime_error& problem) {
+        throw DocumentError(QStringLiteral("%1: %2").arg(path, sentenceOf(problem)));
     }
     if (output == QLatin1String("-"))
         writeOutput(output,

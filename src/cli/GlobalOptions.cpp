@@ -24,7 +24,7 @@ void apply(GlobalOptions& options, const QString& name, const QString& value) {
     } else if (name == QLatin1String("--settings")) {
         options.settings = value;
     } else if (name == QLatin1String("--now")) {
-        options.now = QDateTime::fromString(value, Qt::ISODate);
+        options.now = QDateTime::fromString(value, Qt::ISODate).toLocalTime();
         if (!options.now.isValid())
             throw UsageError(
                 QStringLiteral("--now takes a time such as 2016-06-07T14:30:00, not \"%1\"").arg(value));

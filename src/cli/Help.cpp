@@ -20,10 +20,6 @@ QString optionLines(std::span<const OptionSpec> options) {
     return lines;
 }
 
-QString usageLine(const Command& command) {
-    return QStringLiteral("sargan %1 %2").arg(QLatin1String(command.name), QString::fromUtf8(command.usage));
-}
-
 /// Text for a manual page: no line may begin like a request, and hyphens are meant as they stand.
 QString roff(QString text) {
     text.replace(u'\\', QStringLiteral("\\e")).replace(u'-', QStringLiteral("\\-"));
@@ -40,13 +36,19 @@ QString roffOptions(std::span<const OptionSpec> options) {
 
 }  // namespace
 
+QString usageLine(const Command& command) {
+    return QStringLiteral("sargan %1 %2")
+        .arg(QLatin1String(command.name), QString::fromUtf8(command.usage))
+        .trimmed();
+}
+
 QString overallHelp() {
     QString help = purpose + QStringLiteral(
                                  "\n\nusage: sargan [FILE…]\n       sargan COMMAND …\n\n"
                                  "Without a command the desktop opens. Commands:\n\n");
     for (const Command& command : commands())
         help += QStringLiteral("  %1  %2\n")
-                    .arg(QLatin1String(command.name), -10)
+                    .arg(QLatin1String(command.name), -11)
                     .arg(QString::fromUtf8(command.summary));
     help += QStringLiteral("\nBefore or after any command:\n\n") + optionLines(globalOptionSpecs());
     help += QStringLiteral(

@@ -58,10 +58,9 @@ void Session::fill(Form& form, const QList<std::pair<QString, QString>>& values,
 void Session::select(Document& document, RecordEditor& editor, const QList<qsizetype>& rows) {
     for (const qsizetype row : rows)
         if (row < 0 || row >= editor.rowCount())
-            throw DocumentError(QStringLiteral("%1: there is no row %2; it has %3")
-                                    .arg(document.path())
-                                    .arg(row)
-                                    .arg(editor.rowCount()));
+            throw DocumentError(
+                QStringLiteral("%1: there is no row %2; it has %3")
+                    .arg(document.path(), QString::number(row), QString::number(editor.rowCount())));
     editor.selectRows(rows);
 }
 

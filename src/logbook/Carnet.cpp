@@ -64,6 +64,7 @@ DocumentSummary Carnet::summary() const {
 }
 
 qsizetype Carnet::addDive(const std::function<void()>& fill) {
+    if (isReadOnly()) return -1;
     _diveForm.blankFields();
     const int number = count() == 0 ? 1 : int(qint64(records().last()->noPlongee()) + 1);
     form().setInteger(divecontrol::plongeeNo, number);

@@ -37,7 +37,8 @@ public:
     // --- The list; each change is one undo step and marks the document edited ---
 
     /// Blanks the form, numbers the dive after the last one, lets `fill` put in what is known, builds the
-    /// dive from the form, appends it and selects it. Answers its row.
+    /// dive from the form, appends it and selects it. Answers its row, or -1 when
+    /// the document was opened to look at only.
     qsizetype addDive(const std::function<void()>& fill = {});
     /// Replaces the dive at the selected row by one built from the form. When both are the same in an
     /// archive, nothing changes.

@@ -53,6 +53,9 @@ DiveForm::DiveForm(Desk& desk) : _desk(desk), _form(specsOfDiveForm()) {
     _form.addAction(QStringLiteral("razNitrox"), [this] { razNitrox(); });
     _form.addAction(QStringLiteral("razHeliox"), [this] { razHeliox(); });
     _form.addAction(QStringLiteral("blankFields"), [this] { blankFields(); });
+    // Nitrogen is what the other shares leave: shown, never stored.
+    _form.setEnabled(_form[divecontrol::n2Mix], false);
+    _form.setEnabled(_form[divecontrol::n2Mix2], false);
     _form.onEndEditing = [this](int) { updateUI(); };
     blankFields();
 }

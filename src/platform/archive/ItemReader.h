@@ -29,7 +29,6 @@ public:
 
     ByteCursor at;
 
-    bool isFirstPass() const { return _growing; }
     Archive::Tables* growing() { return _growing; }
     const Archive::Tables& tables() const { return *_tables; }
     ObjectEntry entry(quint32 index) const { return _tables->objects[index]; }

@@ -105,7 +105,7 @@ public:
     Window(ItemReader& items, quint32 most)
         : at(items.at.at()),
           begin(items.at.begin()),
-          safeEnd(at + items.at.left() - margin),
+          end(at + items.at.left()),
           _items(items),
           _entries(
               (items.growing()->objects.reserve(roomFor(items, most)), items.growing()->objects.begin())),
@@ -121,9 +121,9 @@ public:
 
     const uchar* at;
     const uchar* const begin;
-    const uchar* const safeEnd;
+    const uchar* const end;
 
-    bool isSafe() const { return at <= safeEnd; }
+    bool isSafe() const { return end - at >= margin; }
     void addNumber(const Start& start) {
         *_newEntry++ = ObjectEntry::fromBits(quint64(at - begin) + start.entryBits);
     }

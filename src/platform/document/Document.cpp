@@ -38,6 +38,14 @@ void Document::readBytes(const QByteArray& bytes, const QString& type) {
     markSaved();
 }
 
+bool Document::readsBack(const QByteArray& bytes) const {
+    try {
+        return holdsContent(bytes);
+    } catch (const ArchiveError&) {
+        return false;
+    }
+}
+
 void Document::saveTo(const QString& path, bool overwriteChanged) {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     const bool ownFile = absolute == _path;
@@ -46,7 +54,7 @@ void Document::saveTo(const QString& path, bool overwriteChanged) {
                                            "alone")
                                 .arg(path));
     const QByteArray bytes = dataRepresentationOfType(_kind.currentTypeName(_desk));
-    if (!holdsContent(bytes))
+    if (!readsBack(bytes))
         throw DocumentError(QStringLiteral("%1: what would be written does not read back as this document, so "
                                            "nothing was written")
                                 .arg(path));

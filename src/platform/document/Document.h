@@ -98,7 +98,7 @@ Q_SIGNALS:
     void fileChanged();
 
 protected:
-    /// Whether these bytes, read back, hold exactly this document's content.
+    /// Whether these bytes, read back, hold exactly this document's content. May throw ArchiveError.
     virtual bool holdsContent(const QByteArray& bytes) const = 0;
     /// A content state is a number that no other state of this document ever has.
     quint64 newState() { return ++_lastState; }
@@ -108,6 +108,7 @@ protected:
 
 private:
     void saveTo(const QString& path, bool overwriteChanged);
+    bool readsBack(const QByteArray& bytes) const;
 
     const DocumentKind& _kind;
     Desk& _desk;

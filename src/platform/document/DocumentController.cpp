@@ -48,13 +48,16 @@ Document* DocumentController::newDocument(const DocumentKind& kind) {
 
 std::unique_ptr<Document> DocumentController::read(const QString& path) const {
     const ReadResult file = readStampedFile(path);
+    const auto withPath = [&](const QString& sentence) { return DocumentError(path + QStringLiteral(": ") + sentence); };
     try {
         const DocumentKind& kind = _kinds.forContent(file.bytes, path);
         auto document = kind.create(kind, _desk);
         document->takeFile(path, file);
         return document;
     } catch (const ArchiveError& error) {
-        throw DocumentError(QStringLiteral("%1: %2").arg(path, error.sentence()));
+        throw withPath(error.sentence());
+    } catch (const DocumentError& error) {
+        throw withPath(sentenceOf(error));
     }
 }
 

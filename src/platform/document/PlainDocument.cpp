@@ -10,7 +10,12 @@ namespace sargan {
 
 namespace {
 
-QJsonValue plainValue(const ArchivedValue& archived);
+QJsonValue plainValue(const ArchivedValue& archived, bool isFloat);
+
+/// Whether the value at this place of a group was archived as a 32-bit real.
+bool isFloatAt(const ArchivedGroup& group, qsizetype place) {
+    return group.type.size() == group.values.size() && group.type[place] == 'f';
+}
 
 /// A date, when the object is one: its first group is a "d".
 std::optional<Moment> asMoment(const ArchivedObject& object) {
@@ -34,14 +39,15 @@ QJsonValue plainObject(const ArchivedObject& object) {
     }
     if (object.isKindOf("NSNumber")) {
         const QList<ArchivedGroup> groups = object.groups();
-        if (groups.size() > 1 && !groups[1].values.isEmpty()) return plainValue(groups[1].values[0]);
+        if (groups.size() > 1 && !groups[1].values.isEmpty()) return plainValue(groups[1].values[0], isFloatAt(groups[1], 0));
     }
     return QJsonObject{{QStringLiteral("object"), object.className()}};
 }
 
-QJsonValue plainValue(const ArchivedValue& archived) {
+QJsonValue plainValue(const ArchivedValue& archived, bool isFloat) {
     if (const auto* whole = std::get_if<qint64>(&archived.value)) return *whole;
-    if (const auto* real = std::get_if<double>(&archived.value)) return json::number(*real);
+    if (const auto* real = std::get_if<double>(&archived.value))
+        return isFloat ? json::value(Float(*real)) : json::number(*real);
     if (const auto* bytes = std::get_if<QByteArray>(&archived.value)) return QString::fromUtf8(*bytes);
     if (const auto* object = std::get_if<std::shared_ptr<const ArchivedObject>>(&archived.value))
         return *object ? plainObject(**object) : QJsonValue();
@@ -51,7 +57,8 @@ QJsonValue plainValue(const ArchivedValue& archived) {
 QJsonArray plainRecord(const ArchivedObject& record) {
     QJsonArray values;
     for (const ArchivedGroup& group : record.groups())
-        for (const ArchivedValue& value : group.values) values.append(plainValue(value));
+        for (qsizetype i = 0; i < group.values.size(); ++i)
+            values.append(plainValue(group.values[i], isFloatAt(group, i)));
     return values;
 }
 
@@ -80,7 +87,8 @@ QStringList PlainDocument::values(qsizetype row) const {
     return shown;
 }
 
-QByteArray PlainDocument::dataRepresentationOfType(const QString&) {
+QByteArray PlainDocument::dataRepresentationOfType(const QString& type) {
+    if (type != kind().currentTypeName(desk())) return {};
     if (_archive) return ArchiveWriter::rewrite(*_archive);
     ArchiveWriter writer;
     writer.beginRootArray(0);

@@ -26,7 +26,7 @@ constexpr bool underSanitizer = false;
 
 constexpr qint64 mebi = 1024 * 1024;
 /// Rounds the archives to about this size: large enough that what grows with the file shows.
-constexpr qint64 fileSize = 8 * mebi;
+constexpr qint64 fileSize = 4 * mebi;
 
 /// A field of this process's memory report, in bytes.
 qint64 memoryField(const char* name) {

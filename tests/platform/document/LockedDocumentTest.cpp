@@ -40,6 +40,7 @@ private Q_SLOTS:
     }
     void cleanup() {
         _controller.reset();
+        _elsewhere.reset();
         QCOMPARE(_desk->prompt.finish(), QStringList());
     }
 

@@ -56,9 +56,9 @@ private Q_SLOTS:
             QCOMPARE(values.size(), expected.size());
             for (qsizetype i = 0; i < values.size(); ++i) {
                 const QJsonArray slot = expected[i].toArray();
-                if (slot[1].isObject() || slot[1].isArray()) continue;
-                if (slot[0].toString() == u"date"_s || slot[0].toString() == u"d"_s) continue;
-                QVERIFY2(values[i] == slot[1], qPrintable(u"row %1, value %2"_s.arg(row).arg(i)));
+                const bool isPicture = slot[0].toString() == u"image"_s && slot[1].isString();
+                const QJsonValue shown = isPicture ? values[i].toObject().value("base64"_L1) : values[i];
+                QVERIFY2(shown == slot[1], qPrintable(u"row %1, value %2"_s.arg(row).arg(i)));
             }
         }
     }

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QtTest>
+
+#include "support/TestDesk.h"
+
+// Each runs one test class of this folder and returns the number of its failures.
+int runDiveFormTest(int argc, char** argv);
+int runFormRecordTest(int argc, char** argv);
+int runLogbookListTest(int argc, char** argv);
+int runLogbookSearchTest(int argc, char** argv);
+
+namespace sargan {
+
+inline Plongee diveNumbered(int number, const QString& place = {}) {
+    Plongee dive;
+    dive.setNoPlongee(number);
+    dive.setO2Mix(21);
+    dive.setO2Mix_2(21);
+    if (!place.isNull()) dive.setLieu(place);
+    return dive;
+}
+
+/// A logbook with these dives in it, saved as far as its edited mark knows.
+inline void fillLogbook(Carnet& carnet, const QList<Plongee>& dives) {
+    Records<Plongee> records;
+    for (const Plongee& dive : dives) records.append(std::make_shared<const Plongee>(dive));
+    carnet.readBytes(writeRecords(records, plongeeClass()), QStringLiteral("Carnet de plongee"));
+}
+
+inline QList<int> numbersIn(const Carnet& carnet) {
+    QList<int> numbers;
+    for (const auto& dive : carnet.records()) numbers << dive->noPlongee();
+    return numbers;
+}
+
+}  // namespace sargan
