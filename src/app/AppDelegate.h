@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calculators/ui/CalculatorWindows.h"
 #include "platform/desk/Desk.h"
 
 namespace sargan {
@@ -7,13 +8,17 @@ namespace sargan {
 /// Menu commands that belong to no document.
 class AppDelegate {
 public:
-    explicit AppDelegate(Desk& desk) : _desk(desk) {}
+    explicit AppDelegate(Desk& desk) : _desk(desk), _calculators(desk) {}
 
     /// Every open logbook offers to renumber its dives.
     void sendRenumDivesNotification(const void* sender);
 
+    /// The calculators' windows, each made when first asked for and kept from then on.
+    CalculatorWindows& calculators() { return _calculators; }
+
 private:
     Desk& _desk;
+    CalculatorWindows _calculators;
 };
 
 }  // namespace sargan

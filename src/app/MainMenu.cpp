@@ -57,6 +57,7 @@ MainMenu::MainMenu(DocumentWindow& window, DesktopSuite& suite)
     auto* edit = new EditMenu(window);
     window.menuBar()->addMenu(edit->menu());
     if (QMenu* kindMenu = window.makeKindMenu()) window.menuBar()->addMenu(kindMenu);
+    window.menuBar()->addMenu(suite.delegate().calculators().makeMenu(window.menuBar()));
     makeWindowMenu();
     makeHelpMenu();
     if (auto* logbook = qobject_cast<LogbookWindow*>(&window)) {

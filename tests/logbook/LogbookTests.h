@@ -5,7 +5,14 @@
 #include "support/TestDesk.h"
 
 // Each runs one test class of this folder and returns the number of its failures.
+int runCarnetListTest(int argc, char** argv);
+int runCarnetSearchTest(int argc, char** argv);
+int runCarnetSelectionTest(int argc, char** argv);
+int runCarnetTypesTest(int argc, char** argv);
+int runDiveBlankTest(int argc, char** argv);
+int runDiveChecksTest(int argc, char** argv);
 int runDiveFormTest(int argc, char** argv);
+int runDiveMappingTest(int argc, char** argv);
 int runFormRecordTest(int argc, char** argv);
 int runLogbookListTest(int argc, char** argv);
 int runLogbookSearchTest(int argc, char** argv);

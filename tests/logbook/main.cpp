@@ -3,5 +3,7 @@
 
 int main(int argc, char** argv) {
     return runTests(argc, argv,
-                    {runDiveFormTest, runFormRecordTest, runLogbookListTest, runLogbookSearchTest});
+                    {runDiveFormTest, runFormRecordTest, runLogbookListTest, runLogbookSearchTest,
+                     runDiveMappingTest, runDiveBlankTest, runDiveChecksTest, runCarnetListTest,
+                     runCarnetSelectionTest, runCarnetSearchTest, runCarnetTypesTest});
 }
