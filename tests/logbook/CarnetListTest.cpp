@@ -138,21 +138,6 @@ private Q_SLOTS:
         QCOMPARE(_book->numbers(), QList<int>({1, 2, 3, 4, 5}));
     }
 
-    void deletingDeclinedChangesNothing() {
-        _book->setNumbers({1, 2});
-        carnet().select({1});
-        expectEraseQuestion(1);
-        QVERIFY(!carnet().deleteDive());
-        QCOMPARE(_book->numbers(), QList<int>({1, 2}));
-        QCOMPARE(carnet().selection(), Selection({1}));
-    }
-
-    void deletingWithoutSelectionDoesNotEvenBeep() {
-        _book->setNumbers({1});
-        QVERIFY(!carnet().deleteDive());
-        QCOMPARE(carnet().count(), 1);
-    }
-
     void renumberingFollowsTheList_data() {
         QTest::addColumn<QString>("start");
         QTest::addColumn<QList<int>>("numbers");
@@ -197,7 +182,8 @@ private Q_SLOTS:
                 const QByteArray name = field->name;
                 if (name == "noPlongee" || name.startsWith("heMix") || name.startsWith("o2Mix")) continue;
                 const bool same = std::visit(
-                    [&](auto at) { return sameValue(carnet().record(row).*at, (*before[row]).*at); }, field->member);
+                    [&](auto at) { return sameValue(carnet().record(row).*at, (*before[row]).*at); },
+                    field->member);
                 QVERIFY2(same, field->name);
             }
         QCOMPARE(_book->numbers(), QList<int>({500, 501}));

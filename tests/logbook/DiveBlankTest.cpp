@@ -13,15 +13,16 @@ namespace {
 QMap<QString, QString> blankTexts() {
     QMap<QString, QString> texts;
     for (const auto& empty :
-         {u"plongeeNo"_s,   u"lieu"_s,     u"site"_s,           u"pays"_s,  u"partenaires"_s, u"epaves"_s,
-          u"structure"_s,   u"bateau"_s,   u"profondeur"_s,     u"temps"_s, u"runtime"_s,     u"depart"_s,
-          u"fin"_s,         u"depart_2"_s, u"fin_2"_s,          u"notes"_s, u"volumeBloc_2"_s, u"pressionBloc_2"_s})
+         {u"plongeeNo"_s, u"lieu"_s, u"site"_s, u"pays"_s, u"partenaires"_s, u"epaves"_s, u"structure"_s,
+          u"bateau"_s, u"profondeur"_s, u"temps"_s, u"runtime"_s, u"depart"_s, u"fin"_s, u"depart_2"_s,
+          u"fin_2"_s, u"notes"_s, u"volumeBloc_2"_s, u"pressionBloc_2"_s})
         texts.insert(empty, u""_s);
     for (int n = 1; n <= 12; ++n) texts.insert(u"equip_%1"_s.arg(n), u""_s);
     for (const auto& dash : {u"coeff"_s, u"tempEau"_s, u"tempAir"_s, u"deco_TTS"_s, u"decoSoftName"_s,
                              u"decoAlgoType"_s, u"decoConservatism"_s})
         texts.insert(dash, u"-"_s);
-    for (const auto& zero : {u"altitude"_s, u"pAtm"_s, u"flow"_s, u"heMix"_s, u"heMix_2"_s}) texts.insert(zero, u"0"_s);
+    for (const auto& zero : {u"altitude"_s, u"pAtm"_s, u"flow"_s, u"heMix"_s, u"heMix_2"_s})
+        texts.insert(zero, u"0"_s);
     for (int tank = 1; tank <= 3; ++tank)
         for (const auto& value : {u"Volume"_s, u"Depart"_s, u"Fin"_s, u"O2"_s, u"He"_s})
             texts.insert(u"bailout_%1_%2"_s.arg(QString::number(tank), value), u"0"_s);
@@ -69,12 +70,14 @@ const FromSetting fromSettings[] = {
 };
 
 const QMap<QString, int> blankTags{
-    {u"pmBmPopUp"_s, 0},        {u"gpsSystemPopUp"_s, 1},      {u"meteoPopUp"_s, 7},       {u"ventSecteurPopUp"_s, 0},
-    {u"ventForcePopUp"_s, 0},   {u"courantPopUp"_s, 6},        {u"visibilitePopUp"_s, 7},  {u"typePlongeePopUp"_s, 8},
-    {u"inoubliablePopUp"_s, 0}, {u"nocturneSwitch"_s, 0},      {u"decoPopUp"_s, 0},        {u"rebreatherPopUp"_s, 0},
-    {u"gazPopUp"_s, 0},         {u"gaz_2PopUp"_s, 0},          {u"ppO2PopUp"_s, 0},        {u"lowSetpointPopUp"_s, 0},
-    {u"alliageBlocPopUp"_s, 0}, {u"alliageBloc_2PopUp"_s, 0},  {u"combinaisonPopUp"_s, 0}, {u"configurationPopUp"_s, 1},
-    {u"difficulteSlider"_s, 0}, {u"samplingRatePopUp"_s, 0},
+    {u"pmBmPopUp"_s, 0},         {u"gpsSystemPopUp"_s, 1},     {u"meteoPopUp"_s, 7},
+    {u"ventSecteurPopUp"_s, 0},  {u"ventForcePopUp"_s, 0},     {u"courantPopUp"_s, 6},
+    {u"visibilitePopUp"_s, 7},   {u"typePlongeePopUp"_s, 8},   {u"inoubliablePopUp"_s, 0},
+    {u"nocturneSwitch"_s, 0},    {u"decoPopUp"_s, 0},          {u"rebreatherPopUp"_s, 0},
+    {u"gazPopUp"_s, 0},          {u"gaz_2PopUp"_s, 0},         {u"ppO2PopUp"_s, 0},
+    {u"lowSetpointPopUp"_s, 0},  {u"alliageBlocPopUp"_s, 0},   {u"alliageBloc_2PopUp"_s, 0},
+    {u"combinaisonPopUp"_s, 0},  {u"configurationPopUp"_s, 1}, {u"difficulteSlider"_s, 0},
+    {u"samplingRatePopUp"_s, 0},
 };
 
 }  // namespace
@@ -147,8 +150,8 @@ private Q_SLOTS:
         const auto noFlag = NumberArray::ofInts(std::to_array<qint32>({0}));
         QCOMPARE(profile.profilProfondeur(), zero);
         QCOMPARE(profile.PRESS_Data(), zero);
-        for (const auto& flags : {profile.ASC_Flag(), profile.SLOW_Flag(), profile.SURF_Flag(), profile.CEIL_Flag(),
-                                  profile.GAZ_Flag()})
+        for (const auto& flags : {profile.ASC_Flag(), profile.SLOW_Flag(), profile.SURF_Flag(),
+                                  profile.CEIL_Flag(), profile.GAZ_Flag()})
             QCOMPARE(flags, noFlag);
     }
 
@@ -170,7 +173,8 @@ private Q_SLOTS:
         const Plongee dive = _book->carnet->diveForm().addDiveToList();
         for (const Field<Plongee>* field : PlongeeFields::all)
             if (field->is<Text>())
-                QVERIFY2(!std::get<Text Plongee::*>(field->member) || !(dive.*std::get<Text Plongee::*>(field->member)).isNull(),
+                QVERIFY2(!std::get<Text Plongee::*>(field->member) ||
+                             !(dive.*std::get<Text Plongee::*>(field->member)).isNull(),
                          field->name);
     }
 

@@ -10,7 +10,6 @@ int runCarnetSearchTest(int argc, char** argv);
 int runCarnetSelectionTest(int argc, char** argv);
 int runCarnetTypesTest(int argc, char** argv);
 int runDiveBlankTest(int argc, char** argv);
-int runDiveChecksTest(int argc, char** argv);
 int runDiveFormTest(int argc, char** argv);
 int runDiveMappingTest(int argc, char** argv);
 int runFormRecordTest(int argc, char** argv);

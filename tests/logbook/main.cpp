@@ -4,6 +4,6 @@
 int main(int argc, char** argv) {
     return runTests(argc, argv,
                     {runDiveFormTest, runFormRecordTest, runLogbookListTest, runLogbookSearchTest,
-                     runDiveMappingTest, runDiveBlankTest, runDiveChecksTest, runCarnetListTest,
-                     runCarnetSelectionTest, runCarnetSearchTest, runCarnetTypesTest});
+                     runDiveMappingTest, runDiveBlankTest, runCarnetListTest, runCarnetSelectionTest,
+                     runCarnetSearchTest, runCarnetTypesTest});
 }

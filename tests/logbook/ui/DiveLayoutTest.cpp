@@ -54,7 +54,10 @@ private Q_SLOTS:
         QVERIFY(widget->isVisible());
         const QString before = formwalk::held(form.form(), control);
         formwalk::operate(widget, spec, 2);
-        QCOMPARE(formwalk::held(form.form(), control), formwalk::expectedAfter(spec, 2, before));
+        // What is only shown takes no typing.
+        const bool isShownOnly = !form.form().state(control).enabled;
+        QCOMPARE(formwalk::held(form.form(), control),
+                 isShownOnly ? before : formwalk::expectedAfter(spec, 2, before));
     }
 
     void whatTheFormHoldsIsShownInTheWidget_data() { everyControl(); }

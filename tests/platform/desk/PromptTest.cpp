@@ -56,8 +56,9 @@ private Q_SLOTS:
         prompt.expectBeep();
         prompt.beep();
         prompt.alert(u"x"_s);
-        QCOMPARE(prompt.finish(), QStringList({u"expected question: Erase?, got question: Delete?"_s,
-                                               u"expected alert: x, got beep"_s, u"expected beep, got alert: x"_s}));
+        QCOMPARE(prompt.finish(),
+                 QStringList({u"expected question: Erase?, got question: Delete?"_s,
+                              u"expected alert: x, got beep"_s, u"expected beep, got alert: x"_s}));
     }
 
     void anAnswerWithoutButtonIsTheLastOne() {

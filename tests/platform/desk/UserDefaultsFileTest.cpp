@@ -15,7 +15,9 @@ namespace {
 
 const QString file = u"settings.json"_s;
 
-QJsonObject settingsIn(const Folder& folder) { return QJsonDocument::fromJson(folder.content(file)).object(); }
+QJsonObject settingsIn(const Folder& folder) {
+    return QJsonDocument::fromJson(folder.content(file)).object();
+}
 
 }  // namespace
 

@@ -51,8 +51,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("integer");
         QTest::addColumn<double>("number");
         QTest::addColumn<QString>("text");
-        const auto row = [](const char* name, const QJsonValue& value, bool boolean, int integer, double number,
-                            const QString& text) {
+        const auto row = [](const char* name, const QJsonValue& value, bool boolean, int integer,
+                            double number, const QString& text) {
             QTest::newRow(name) << value << boolean << integer << number << text;
         };
         row("absent", QJsonValue(QJsonValue::Undefined), false, 0, 0, {});

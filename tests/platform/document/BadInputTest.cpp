@@ -59,17 +59,21 @@ private Q_SLOTS:
         const auto row = [](const char* name, const QString& reason, Obstacle obstacle) {
             QTest::newRow(name) << obstacle << reason;
         };
-        row("missing", u"there is no such file"_s, [](const Folder& folder) { return folder.path(u"bad.carnet"_s); });
+        row("missing", u"there is no such file"_s,
+            [](const Folder& folder) { return folder.path(u"bad.carnet"_s); });
         row("pipe that nobody writes to", u"pipe or a device"_s, fifo);
         row("folder", u"it is a folder"_s, inner);
         row("endless device", u"pipe or a device"_s, [](const Folder&) { return u"/dev/zero"_s; });
         row("empty", u": byte 0: "_s, [](const Folder& folder) { return put(folder, ""); });
-        row("text", u": byte "_s, [](const Folder& folder) { return put(folder, "A text, not an archive.\n"); });
-        row("zeros", u": byte "_s, [](const Folder& folder) { return put(folder, QByteArray(100000, '\0')); });
+        row("text", u": byte "_s,
+            [](const Folder& folder) { return put(folder, "A text, not an archive.\n"); });
+        row("zeros", u": byte "_s,
+            [](const Folder& folder) { return put(folder, QByteArray(100000, '\0')); });
         row("head only", u": byte "_s,
             [](const Folder& folder) { return put(folder, golden::bytes(u"empty.carnet"_s).left(16)); });
-        row("half", u": byte "_s,
-            [](const Folder& folder) { return put(folder, golden::bytes(u"plongee-v27.carnet"_s).left(3000)); });
+        row("half", u": byte "_s, [](const Folder& folder) {
+            return put(folder, golden::bytes(u"plongee-v27.carnet"_s).left(3000));
+        });
         row("count beyond the file", u": byte "_s, [](const Folder& folder) {
             // The count 0 stands before the last byte.
             QByteArray bytes = golden::bytes(u"empty.carnet"_s);
@@ -99,12 +103,14 @@ private Q_SLOTS:
             const OrdinaryPerson person;
             sentence = refusal(path);
         }
-        QVERIFY2(sentence.contains(u"bad.carnet"_s) && sentence.contains(u"you may not read it"_s), qPrintable(sentence));
+        QVERIFY2(sentence.contains(u"bad.carnet"_s) && sentence.contains(u"you may not read it"_s),
+                 qPrintable(sentence));
     }
 
     void everyArchiveThatMustBeRefusedIs_data() {
         QTest::addColumn<QString>("file");
-        for (const QString& file : golden::files(u"refused-*.carnet"_s)) QTest::newRow(qPrintable(file)) << file;
+        for (const QString& file : golden::files(u"refused-*.carnet"_s))
+            QTest::newRow(qPrintable(file)) << file;
     }
     void everyArchiveThatMustBeRefusedIs() {
         QFETCH(QString, file);

@@ -88,7 +88,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("extension");
         QTest::addColumn<QString>("documentClass");
         QTest::addColumn<bool>("isLocalised");
-        const auto row = [](const char* type, const char* extension, const char* documentClass, bool localised) {
+        const auto row = [](const char* type, const char* extension, const char* documentClass,
+                            bool localised) {
             QTest::newRow(type) << QString::fromLatin1(type) << QString::fromLatin1(extension)
                                 << QString::fromLatin1(documentClass) << localised;
         };
@@ -156,7 +157,8 @@ private Q_SLOTS:
     }
 
     void recordsOfNoKindAreRefused() {
-        const auto error = failureOf<DocumentError>([&] { _controller->read(put(u"a"_s, u"refused-class-foo.carnet"_s)); });
+        const auto error =
+            failureOf<DocumentError>([&] { _controller->read(put(u"a"_s, u"refused-class-foo.carnet"_s)); });
         QVERIFY(error);
         QVERIFY2(sentenceOf(*error).contains(u"\"Foo\""_s), error->what());
     }
@@ -181,7 +183,8 @@ private Q_SLOTS:
 
     void whatDoesNotOpenIsToldInOneSentence() {
         const QString missing = _folder->path(u"none.carnet"_s);
-        _desk->prompt.expectAlert(u"“none.carnet” cannot be read: there is no such file in “%1”."_s.arg(_folder->path()));
+        _desk->prompt.expectAlert(
+            u"“none.carnet” cannot be read: there is no such file in “%1”."_s.arg(_folder->path()));
         QVERIFY(!_controller->openDocument(missing));
         QVERIFY(_controller->documents().empty());
         QVERIFY(!_controller->recentDocuments());

@@ -154,8 +154,9 @@ private Q_SLOTS:
         } catch (const DocumentError& error) {
             sentence = sentenceOf(error);
         }
-        QCOMPARE(sentence, path() + u": what would be written does not read back as this document, so nothing "
-                                    "was written"_s);
+        QCOMPARE(sentence, path() +
+                               u": what would be written does not read back as this document, so nothing "
+                               "was written"_s);
         QCOMPARE(onDisk(), before);
         QCOMPARE(names(), QStringList({name}));
         QVERIFY(_document->isEdited());

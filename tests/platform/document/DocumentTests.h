@@ -50,7 +50,12 @@ public:
 
 inline const sargan::DocumentKind& sampleKind() {
     static const sargan::DocumentKind kind{
-        "Samples", false, "SampleDocument", "Sample", "sample", "newSampleDocumentMenuAction",
+        "Samples",
+        false,
+        "SampleDocument",
+        "Sample",
+        "sample",
+        "newSampleDocumentMenuAction",
         [](const sargan::DocumentKind& own, sargan::Desk& desk) -> std::unique_ptr<sargan::Document> {
             return std::make_unique<SampleDocument>(own, desk);
         }};

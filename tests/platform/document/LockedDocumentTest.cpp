@@ -22,7 +22,8 @@ class LockedDocumentTest : public QObject {
     /// Opens the file that is open elsewhere, and answers the question so.
     Carnet* openAnswering(int answer) {
         _desk->prompt.expectQuestion(
-            u"“dives.carnet” is open in another program. Open it to look at only, or work on a copy?"_s, answer);
+            u"“dives.carnet” is open in another program. Open it to look at only, or work on a copy?"_s,
+            answer);
         return static_cast<Carnet*>(_controller->openDocument(path()));
     }
 

@@ -99,7 +99,8 @@ private Q_SLOTS:
     void knowsNoExportTypes() {
         const Folder folder;
         const auto document = read(golden::path(u"budget-v1.budget"_s));
-        QVERIFY(failureOf<DocumentError>([&] { document->exportTo(folder.path(u"x"_s), u"No such type"_s); }));
+        QVERIFY(
+            failureOf<DocumentError>([&] { document->exportTo(folder.path(u"x"_s), u"No such type"_s); }));
         QVERIFY(folder.names().isEmpty());
     }
 
@@ -112,7 +113,8 @@ private Q_SLOTS:
     void whatIsNoListOfRecordsIsRefused() {
         QFETCH(QString, file);
         PlainDocument document(*_desk.kinds.named(u"Budget"_s, _desk.desk), _desk.desk);
-        const auto error = failureOf<DocumentError>([&] { document.readBytes(golden::bytes(file), u"Budget"_s); });
+        const auto error =
+            failureOf<DocumentError>([&] { document.readBytes(golden::bytes(file), u"Budget"_s); });
         QVERIFY(error);
         QCOMPARE(document.count(), 0);
     }

@@ -30,14 +30,16 @@ private Q_SLOTS:
         QTest::newRow("in order") << Selection{0, 2} << Selection{0, 2};
         QTest::newRow("out of order") << Selection{2, 0, 1} << Selection{0, 1, 2};
         QTest::newRow("twice") << Selection{1, 1, 0, 1} << Selection{0, 1};
-        QTest::newRow("outside") << Selection{-1, 3, 2, 99, std::numeric_limits<qsizetype>::min()} << Selection{2};
+        QTest::newRow("outside") << Selection{-1, 3, 2, 99, std::numeric_limits<qsizetype>::min()}
+                                 << Selection{2};
     }
     void selectionsAreWithinTheListAscendingEachOnce() {
         QFETCH(Selection, rows);
         const auto document = newDocument(3);
         document->select(rows);
         QTEST(document->selection(), "clean");
-        QCOMPARE(document->selectedRow(), document->selection().isEmpty() ? -1 : document->selection().first());
+        QCOMPARE(document->selectedRow(),
+                 document->selection().isEmpty() ? -1 : document->selection().first());
     }
 
     void aSelectionIsToldOnlyWhenItIsAnotherOne() {

@@ -72,9 +72,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("value");
         QTest::addColumn<QString>("sentence");
         const auto row = [](const QString& control, const QString& value, const QString& problem) {
-            QTest::newRow(qPrintable(control + u'=' + value)) << control << value << control + u": "_s + problem;
+            QTest::newRow(qPrintable(control + u'=' + value))
+                << control << value << control + u": "_s + problem;
         };
-        const auto noNumber = [](const QString& value) { return u"\"%1\" is not a whole number"_s.arg(value); };
+        const auto noNumber = [](const QString& value) {
+            return u"\"%1\" is not a whole number"_s.arg(value);
+        };
         for (const auto& value : {u"seven"_s, u""_s, u"1.5"_s, u"2147483648"_s})
             row(u"menuPopUp"_s, value, noNumber(value));
         row(u"levelSlider"_s, u"x"_s, noNumber(u"x"_s));
@@ -84,7 +87,8 @@ private Q_SLOTS:
         for (const auto& value : {u"yesterday"_s, u"2015-02-29"_s, u"25:00"_s, u"07/06/2016"_s})
             for (const auto& control : {u"dateField"_s, u"timeField"_s})
                 row(control, value,
-                    u"\"%1\" is not a date or time such as 2016-06-07, 14:30 or 2016-06-07T14:30:00"_s.arg(value));
+                    u"\"%1\" is not a date or time such as 2016-06-07, 14:30 or 2016-06-07T14:30:00"_s.arg(
+                        value));
         row(u"captionField"_s, u"x"_s, u"is shown only, it takes no value"_s);
         row(u"tintWell"_s, u"no colour"_s, u"\"no colour\" is not a colour"_s);
     }

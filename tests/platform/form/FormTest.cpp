@@ -20,7 +20,9 @@ const Moment june = Moment::fromIso(u"2016-06-07T14:30:00"_s);
 void addChanges() {
     QTest::addColumn<Change>("change");
     QTest::addColumn<int>("control");
-    const auto row = [](const char* name, int control, Change change) { QTest::newRow(name) << change << control; };
+    const auto row = [](const char* name, int control, Change change) {
+        QTest::newRow(name) << change << control;
+    };
     row("text", text, [](Form& form) { form.setText(text, u"a"_s); });
     row("empty text", text, [](Form& form) { form.setText(text, u""_s); });
     row("number", number, [](Form& form) { form.setInteger(number, 0); });
@@ -43,7 +45,8 @@ private Q_SLOTS:
     void startsBlank() {
         const Form form(formtest::controls);
         QCOMPARE(form.count(), 12);
-        for (int control = 0; control < form.count(); ++control) QVERIFY(form.state(control) == ControlState());
+        for (int control = 0; control < form.count(); ++control)
+            QVERIFY(form.state(control) == ControlState());
         QVERIFY(form.text(text).isNull());
         QCOMPARE(form.focus(), -1);
     }

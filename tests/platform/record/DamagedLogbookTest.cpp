@@ -51,8 +51,8 @@ class DamagedLogbookTest : public QObject {
 
     static void addArchives() {
         QTest::addColumn<QString>("name");
-        for (const auto& name : {u"small"_s, u"empty.carnet"_s, u"compresseur-v1.compresseur"_s,
-                                 u"documents-v1.documents"_s})
+        for (const auto& name :
+             {u"small"_s, u"empty.carnet"_s, u"compresseur-v1.compresseur"_s, u"documents-v1.documents"_s})
             QTest::newRow(qPrintable(name)) << name;
     }
 
@@ -89,7 +89,8 @@ private Q_SLOTS:
             QByteArray flipped = bytes;
             flipped[bit / 8] = char(flipped[bit / 8] ^ (1 << (bit % 8)));
             const QString refusal = open(_desk, flipped, name);
-            QVERIFY2(refusal != u"offset outside the file"_s && !refusal.contains(u'\n'), qPrintable(refusal));
+            QVERIFY2(refusal != u"offset outside the file"_s && !refusal.contains(u'\n'),
+                     qPrintable(refusal));
             ++(refusal.isEmpty() ? opened : refused);
         }
         QVERIFY2(refused > 128, "the header's bits at least must count");

@@ -41,21 +41,36 @@ struct Span {
     int last;
 };
 constexpr Span spans[] = {
-    {"deco_TTS", 24, 99},          {"pAtm", 26, 99},
-    {"deco_Level_1_sw", 0, 26},    {"deco_Level_2_sw", 0, 26},
-    {"deco_Level_3_sw", 0, 26},    {"deco_Level_4_sw", 0, 26},
-    {"deco_Level_5_sw", 0, 26},    {"deco_Level_6_sw", 25, 26},
-    {"decoO2_Level_6", 25, 99},    {"decoHe_Level_6", 25, 99},
-    {"decoDepth_Level_6", 25, 99}, {"decoTime_Level_6", 25, 99},
-    {"volPony1", 0, 26},           {"volPony2", 0, 26},
-    {"volPony3", 0, 26},           {"pressDepartPony1", 0, 26},
-    {"pressDepartPony2", 0, 26},   {"pressDepartPony3", 0, 26},
-    {"pressFinPony1", 0, 26},      {"pressFinPony2", 0, 26},
-    {"pressFinPony3", 0, 26},      {"volBailout3", 27, 99},
-    {"pressDepartBailout3", 27, 99}, {"pressFinBailout3", 27, 99},
-    {"O2Bailout3", 27, 99},        {"HeBailout3", 27, 99},
-    {"lowSetpoint", 25, 99},       {"highGF", 25, 99},
-    {"lowGF", 25, 99},             {"etranger", 1, 0},
+    {"deco_TTS", 24, 99},
+    {"pAtm", 26, 99},
+    {"deco_Level_1_sw", 0, 26},
+    {"deco_Level_2_sw", 0, 26},
+    {"deco_Level_3_sw", 0, 26},
+    {"deco_Level_4_sw", 0, 26},
+    {"deco_Level_5_sw", 0, 26},
+    {"deco_Level_6_sw", 25, 26},
+    {"decoO2_Level_6", 25, 99},
+    {"decoHe_Level_6", 25, 99},
+    {"decoDepth_Level_6", 25, 99},
+    {"decoTime_Level_6", 25, 99},
+    {"volPony1", 0, 26},
+    {"volPony2", 0, 26},
+    {"volPony3", 0, 26},
+    {"pressDepartPony1", 0, 26},
+    {"pressDepartPony2", 0, 26},
+    {"pressDepartPony3", 0, 26},
+    {"pressFinPony1", 0, 26},
+    {"pressFinPony2", 0, 26},
+    {"pressFinPony3", 0, 26},
+    {"volBailout3", 27, 99},
+    {"pressDepartBailout3", 27, 99},
+    {"pressFinBailout3", 27, 99},
+    {"O2Bailout3", 27, 99},
+    {"HeBailout3", 27, 99},
+    {"lowSetpoint", 25, 99},
+    {"highGF", 25, 99},
+    {"lowGF", 25, 99},
+    {"etranger", 1, 0},
     {"computerMode", 1, 0},
 };
 
@@ -79,16 +94,11 @@ class GoldenLogbookTest : public QObject {
 
 private Q_SLOTS:
     void theSetIsComplete() {
-        const QStringList wanted{u"plongee-v20"_s,
-                                 u"plongee-v23"_s,
-                                 u"plongee-v24"_s,
-                                 u"plongee-v25"_s,
-                                 u"plongee-v26"_s,
-                                 u"plongee-v27-dates"_s,
-                                 u"plongee-v27-long-text"_s,
-                                 u"plongee-v27-unknown-objects"_s,
-                                 u"plongee-v27-unmerged"_s,
-                                 u"plongee-v27"_s};
+        const QStringList wanted{u"plongee-v20"_s,           u"plongee-v23"_s,
+                                 u"plongee-v24"_s,           u"plongee-v25"_s,
+                                 u"plongee-v26"_s,           u"plongee-v27-dates"_s,
+                                 u"plongee-v27-long-text"_s, u"plongee-v27-unknown-objects"_s,
+                                 u"plongee-v27-unmerged"_s,  u"plongee-v27"_s};
         QCOMPARE(golden::logbooks(), wanted);
         QVERIFY(golden::files(u"refused-*.carnet"_s).size() >= 20);
     }
@@ -117,11 +127,12 @@ private Q_SLOTS:
         const auto dives = readRecords(golden::bytes(name + u".carnet"_s), plongeeClass());
         const QByteArray written = writeRecords(dives, plongeeClass());
         const QByteArray wanted = golden::bytes(u"resaved-"_s + name + u".carnet"_s);
-        const auto difference = std::mismatch(written.begin(), written.end(), wanted.begin(), wanted.end()).first;
-        QVERIFY2(written == wanted, qPrintable(u"%1 bytes, %2 wanted, first difference at byte %3"_s
-                                                   .arg(written.size())
-                                                   .arg(wanted.size())
-                                                   .arg(difference - written.begin())));
+        const auto difference =
+            std::mismatch(written.begin(), written.end(), wanted.begin(), wanted.end()).first;
+        QVERIFY2(written == wanted,
+                 qPrintable(u"%1 bytes, %2 wanted, first difference at byte %3"_s.arg(written.size())
+                                .arg(wanted.size())
+                                .arg(difference - written.begin())));
     }
 
     void readsBackWhatItWrites_data() { addLogbooks(); }
@@ -130,8 +141,7 @@ private Q_SLOTS:
         const auto dives = readRecords(golden::bytes(name + u".carnet"_s), plongeeClass());
         const auto again = readRecords(writeRecords(dives, plongeeClass()), plongeeClass());
         QJsonArray wanted;
-        for (const QJsonValue& dive : golden::records(name))
-            wanted.append(asArchivedIn(27, dive.toObject()));
+        for (const QJsonValue& dive : golden::records(name)) wanted.append(asArchivedIn(27, dive.toObject()));
         compareDives(jsonOf(again), wanted);
     }
 
@@ -187,7 +197,8 @@ private Q_SLOTS:
 
     void refusesWithAnOffsetAndOneSentence_data() {
         QTest::addColumn<QString>("file");
-        for (const QString& file : golden::files(u"refused-*.carnet"_s)) QTest::newRow(qPrintable(file)) << file;
+        for (const QString& file : golden::files(u"refused-*.carnet"_s))
+            QTest::newRow(qPrintable(file)) << file;
     }
     void refusesWithAnOffsetAndOneSentence() {
         QFETCH(QString, file);

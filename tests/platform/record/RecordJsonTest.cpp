@@ -26,7 +26,9 @@ Sample fromJson(const QJsonObject& object) {
     return recordFromJson<Sample>(object, u"records[3]"_s, sampleClass());
 }
 
-QJsonObject toJson(const Sample& sample) { return recordToJson<Sample>(sample, SampleFields::all); }
+QJsonObject toJson(const Sample& sample) {
+    return recordToJson<Sample>(sample, SampleFields::all);
+}
 
 /// The value of one field, written and read as JSON text.
 template <class T>
@@ -44,7 +46,8 @@ class RecordJsonTest : public QObject {
 
 private Q_SLOTS:
     void everyFieldIsDumpedByItsName() {
-        const QJsonObject blank = parsed(R"({"whole": 0, "copy": 0, "real": 0, "old": 0, "bitwise": 0, "text": null,
+        const QJsonObject blank =
+            parsed(R"({"whole": 0, "copy": 0, "real": 0, "old": 0, "bitwise": 0, "text": null,
             "date": null, "depths": null, "flags": null, "picture": null, "memo": 0})");
         QCOMPARE(toJson(Sample()), blank);
     }
@@ -91,9 +94,9 @@ private Q_SLOTS:
     void floatsReadBackToTheBit_data() {
         QTest::addColumn<float>("value");
         const float least = std::numeric_limits<float>::denorm_min();
-        for (const float value : {0.0F, 12.3F, -4.5F, 16777217.0F / 3, 1e-5F, least,
-                                  std::numeric_limits<float>::max(), std::numeric_limits<float>::min(), infinity,
-                                  -infinity, 1e15F, 123456789.0F})
+        for (const float value :
+             {0.0F, 12.3F, -4.5F, 16777217.0F / 3, 1e-5F, least, std::numeric_limits<float>::max(),
+              std::numeric_limits<float>::min(), infinity, -infinity, 1e15F, 123456789.0F})
             QTest::newRow(qPrintable(shortest(value))) << value;
     }
     void floatsReadBackToTheBit() {
@@ -139,7 +142,8 @@ private Q_SLOTS:
     }
 
     void listsTakeTheKindThatTheirFieldIsArchivedIn() {
-        const Sample sample = fromJson(parsed(R"({"depths": [1, 2.5], "flags": [1, 3000000000, 0.5, -2147483648]})"));
+        const Sample sample =
+            fromJson(parsed(R"({"depths": [1, 2.5], "flags": [1, 3000000000, 0.5, -2147483648]})"));
         QCOMPARE(sample.depths().commonKind(), NumberKind::Double);
         QCOMPARE(sample.flags().kindAt(0), NumberKind::Int);
         QCOMPARE(sample.flags().kindAt(1), NumberKind::LongLong);
@@ -182,7 +186,8 @@ private Q_SLOTS:
         const QString picture = u"picture: expected a picture {\"image\": …, \"base64\": …} or null"_s;
         row("text for picture", R"({"picture": "x"})", picture);
         row("picture without bytes", R"({"picture": {"image": "png"}})", picture);
-        row("no base64", R"({"picture": {"image": "png", "base64": "%%%"}})", u"picture.base64: expected base64 text"_s);
+        row("no base64", R"({"picture": {"image": "png", "base64": "%%%"}})",
+            u"picture.base64: expected base64 text"_s);
     }
     void wrongValuesAreToldWithTheirPlace() {
         QFETCH(QByteArray, object);

@@ -7,7 +7,9 @@ namespace {
 
 using Slots = std::vector<Slot<Plongee>>;
 
-Slots original() { return {plongeeClass().slots.begin(), plongeeClass().slots.end()}; }
+Slots original() {
+    return {plongeeClass().slots.begin(), plongeeClass().slots.end()};
+}
 
 /// One mutant for each place where `change` changes something and answers what.
 template <typename Change>

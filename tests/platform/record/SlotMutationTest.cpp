@@ -57,11 +57,10 @@ void migrate(Plongee& dive, qint32 version) {
                           dive.pressDepartPony1(), dive.pressDepartPony2(), dive.pressDepartPony3(),
                           dive.pressFinPony1(),    dive.pressFinPony2(),    dive.pressFinPony3()};
     using Set = void (Plongee::*)(Int);
-    const Set bailouts[] = {&Plongee::setVolBailout1,         &Plongee::setVolBailout2,
-                            &Plongee::setVolBailout3,         &Plongee::setPressDepartBailout1,
-                            &Plongee::setPressDepartBailout2, &Plongee::setPressDepartBailout3,
-                            &Plongee::setPressFinBailout1,    &Plongee::setPressFinBailout2,
-                            &Plongee::setPressFinBailout3};
+    const Set bailouts[] = {
+        &Plongee::setVolBailout1,         &Plongee::setVolBailout2,         &Plongee::setVolBailout3,
+        &Plongee::setPressDepartBailout1, &Plongee::setPressDepartBailout2, &Plongee::setPressDepartBailout3,
+        &Plongee::setPressFinBailout1,    &Plongee::setPressFinBailout2,    &Plongee::setPressFinBailout3};
     for (int i = 0; i < 9; ++i) {
         if (i == migration.skipped || ponies[i] < migration.leastValue) continue;
         (dive.*bailouts[i == migration.misplaced ? (i + 1) % 9 : i])(ponies[i]);

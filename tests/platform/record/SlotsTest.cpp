@@ -36,8 +36,10 @@ QStringList groupsOf(const QByteArray& bytes) {
     const auto archive = Archive::read(bytes);
     for (const ArchivedGroup& group : archive->root().asArray().at(0).groups()) {
         QString text = QString::fromLatin1(group.type);
-        if (const auto* whole = std::get_if<qint64>(&group.values.at(0).value)) text += u' ' + QString::number(*whole);
-        if (const auto* real = std::get_if<double>(&group.values.at(0).value)) text += u' ' + QString::number(*real);
+        if (const auto* whole = std::get_if<qint64>(&group.values.at(0).value))
+            text += u' ' + QString::number(*whole);
+        if (const auto* real = std::get_if<double>(&group.values.at(0).value))
+            text += u' ' + QString::number(*real);
         texts << text;
     }
     return texts;
@@ -80,7 +82,8 @@ private Q_SLOTS:
         QCOMPARE(readAs(1).memo(), 100);
         Sample minusOne = *fullSample();
         minusOne.setReal(-1);
-        const QByteArray bytes = writeRecords<Sample>({std::make_shared<const Sample>(minusOne)}, sampleClass());
+        const QByteArray bytes =
+            writeRecords<Sample>({std::make_shared<const Sample>(minusOne)}, sampleClass());
         QCOMPARE(readRecords(bytes, sampleClass()).at(0)->memo(), 301);
     }
 
@@ -113,8 +116,8 @@ private Q_SLOTS:
 
     void theArchiveOfVersionOneHoldsItsSlots() {
         const QByteArray bytes = writeRecords<Sample>({fullSample()}, sampleClass(), 1);
-        const QStringList wanted{u"i -70000"_s,     u"i -70000"_s, u"f 1.5"_s, u"i 7"_s,
-                                 u"i 1083179008"_s, u"@"_s,        u"@"_s,     u"@"_s, u"@"_s};
+        const QStringList wanted{u"i -70000"_s, u"i -70000"_s, u"f 1.5"_s, u"i 7"_s, u"i 1083179008"_s,
+                                 u"@"_s,        u"@"_s,        u"@"_s,     u"@"_s};
         QCOMPARE(groupsOf(bytes), wanted);
     }
 
@@ -131,7 +134,8 @@ private Q_SLOTS:
         QFETCH(float, read);
         Sample sample;
         sample.setOld(value);
-        const QByteArray bytes = writeRecords<Sample>({std::make_shared<const Sample>(sample)}, sampleClass(), 1);
+        const QByteArray bytes =
+            writeRecords<Sample>({std::make_shared<const Sample>(sample)}, sampleClass(), 1);
         QCOMPARE(readRecords(bytes, sampleClass()).at(0)->old(), read);
     }
 
@@ -150,7 +154,9 @@ private Q_SLOTS:
 
     void sameRecordTellsEveryDifference() {
         const Sample full = *fullSample();
-        const auto same = [&](const Sample& other) { return sameRecord<Sample>(full, other, SampleFields::all); };
+        const auto same = [&](const Sample& other) {
+            return sameRecord<Sample>(full, other, SampleFields::all);
+        };
         QVERIFY(same(full));
         for (const Field<Sample>* field : SampleFields::all) {
             Sample other = full;
@@ -181,9 +187,8 @@ private Q_SLOTS:
         QVERIFY(shares.size() >= 3);
         QVERIFY(std::is_sorted(shares.begin(), shares.end()));
         QVERIFY(shares.first() > 0 && shares.last() <= 1);
-        QVERIFY(failureOf<ReadCancelled>([&] {
-            readRecords(bytes, sampleClass(), nullptr, [](double) { return false; });
-        }));
+        QVERIFY(failureOf<ReadCancelled>(
+            [&] { readRecords(bytes, sampleClass(), nullptr, [](double) { return false; }); }));
     }
 
     void anUnknownFieldNameIsAnError() {
@@ -198,7 +203,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("row");
         QTest::addColumn<QStringList>("texts");
         QTest::newRow("plain") << 0 << QStringList{u"1"_s, u"whole"_s, u"i"_s, u"all"_s, u""_s};
-        QTest::newRow("copy") << 1 << QStringList{u"2"_s, u"copy"_s, u"i"_s, u"all"_s, u"written from whole"_s};
+        QTest::newRow("copy") << 1
+                              << QStringList{u"2"_s, u"copy"_s, u"i"_s, u"all"_s, u"written from whole"_s};
         QTest::newRow("real") << 2 << QStringList{u"3"_s, u"real"_s, u"f"_s, u"all"_s, u""_s};
         QTest::newRow("whole once") << 3
                                     << QStringList{u"4"_s, u"old"_s, u"i"_s, u"up to 1"_s,

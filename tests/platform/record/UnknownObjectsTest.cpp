@@ -16,7 +16,8 @@ QString describe(const ArchivedObject& object, int depth = 0);
 QString describe(const ArchivedValue& archived, int depth) {
     if (const auto* whole = std::get_if<qint64>(&archived.value)) return QString::number(*whole);
     if (const auto* real = std::get_if<double>(&archived.value)) return shortest(*real);
-    if (const auto* bytes = std::get_if<QByteArray>(&archived.value)) return QString::fromLatin1(bytes->toHex());
+    if (const auto* bytes = std::get_if<QByteArray>(&archived.value))
+        return QString::fromLatin1(bytes->toHex());
     if (const auto* cls = std::get_if<ArchivedClass>(&archived.value)) return cls->name;
     if (const auto* parts = std::get_if<QList<ArchivedValue>>(&archived.value)) {
         QStringList texts;
@@ -41,7 +42,9 @@ QString describe(const ArchivedObject& object, int depth) {
     return text;
 }
 
-int place(const Field<Plongee>& field) { return fieldIndex<Plongee>(PlongeeFields::all, field); }
+int place(const Field<Plongee>& field) {
+    return fieldIndex<Plongee>(PlongeeFields::all, field);
+}
 
 Records<Plongee> saved(const Records<Plongee>& dives) {
     return readRecords(writeRecords(dives, plongeeClass()), plongeeClass());

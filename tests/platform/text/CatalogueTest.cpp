@@ -25,8 +25,8 @@ void readMessage(QXmlStreamReader& xml, const QString& table, Catalogue& catalog
     QString key, text, state;
     while (xml.readNextStartElement()) {
         if (xml.name() == "translation"_L1) state = xml.attributes().value("type"_L1).toString();
-        const QString content = xml.name() == "location"_L1 ? (xml.skipCurrentElement(), QString())
-                                                            : xml.readElementText();
+        const QString content =
+            xml.name() == "location"_L1 ? (xml.skipCurrentElement(), QString()) : xml.readElementText();
         if (xml.name() == "source"_L1) key = content;
         if (xml.name() == "translation"_L1) text = content;
     }
@@ -59,7 +59,9 @@ Catalogue readCatalogue(const QString& language) {
     return catalogue;
 }
 
-Strings::Language languageOf(const QString& name) { return *Strings::languageNamed(name); }
+Strings::Language languageOf(const QString& name) {
+    return *Strings::languageNamed(name);
+}
 
 }  // namespace
 
@@ -85,7 +87,8 @@ private Q_SLOTS:
         QTest::newRow("joined literals") << u"{\"T\", \"a \" \n \"b\"}"_s << u"T/a b/"_s;
         QTest::newRow("escape") << u"{\"T\", \"a \\\"b\\\"\"}"_s << u"T/a \"b\"/"_s;
         QTest::newRow("interface") << u"strings.ui(\"Untitled\")"_s << u"Interface/Untitled/"_s;
-        QTest::newRow("undo step") << u"perform(QStringLiteral(\"Add dive\"), x)"_s << u"Interface/Add dive/"_s;
+        QTest::newRow("undo step") << u"perform(QStringLiteral(\"Add dive\"), x)"_s
+                                   << u"Interface/Add dive/"_s;
         QTest::newRow("type name") << u"{\"Materiel\", true, \"InvMateriel\", x}"_s << u"Main/Materiel/"_s;
         QTest::newRow("not looked up") << u"{\"Budget\", false, \"PreviBudget\", x}"_s << QString();
         QTest::newRow("no message") << u"{\"lieuField\", \"\"}, f(\"Carnet\", \"Easy\")"_s << QString();
@@ -147,7 +150,8 @@ private Q_SLOTS:
         const Strings strings(languageOf(language));
         const auto texts = readCatalogue(language).texts;
         for (auto it = texts.begin(); it != texts.end(); ++it)
-            QCOMPARE(strings.lookup(it.key().second.toUtf8(), "missing", it.key().first.toUtf8()), it.value());
+            QCOMPARE(strings.lookup(it.key().second.toUtf8(), "missing", it.key().first.toUtf8()),
+                     it.value());
     }
 
     void fileProblemsAreThereAndTakeTheirNames_data() { addLanguages(); }

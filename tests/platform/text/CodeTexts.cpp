@@ -47,9 +47,13 @@ struct Pattern {
 const QList<Pattern>& patterns() {
     static const QList<Pattern> all{
         // Message<int>{"Carnet", "Found dives"}, {"Carnet", "Easy"}, {"Main", "OK", "OK"}
-        {QRegularExpression(uR"re((?:Message<([^<>]*)>\s*\w*\s*)?\{\s*")re"_s + uR"re(([A-Z][^"\\]*)"\s*,\s*)re"_s +
-                            literals + u"(?:,\\s*"_s + literals + u")?\\}"_s),
-         1, 2, 3, {}},
+        {QRegularExpression(uR"re((?:Message<([^<>]*)>\s*\w*\s*)?\{\s*")re"_s +
+                            uR"re(([A-Z][^"\\]*)"\s*,\s*)re"_s + literals + u"(?:,\\s*"_s + literals +
+                            u")?\\}"_s),
+         1,
+         2,
+         3,
+         {}},
         // strings.ui("Untitled"), ui("Place")
         {QRegularExpression(u"\\bui\\(\\s*"_s + literals + u"\\)"_s)},
         // perform(QStringLiteral("Add dive"), …
@@ -68,19 +72,22 @@ QList<CodeText> textsIn(const QString& source, const QString& where) {
         for (auto it = pattern.expression.globalMatch(source); it.hasNext();) {
             const QRegularExpressionMatch match = it.next();
             const auto line = source.left(match.capturedStart()).count(u'\n') + 1;
-            texts.append({pattern.tableAt ? match.captured(pattern.tableAt) : pattern.table,
-                          joined(match.captured(pattern.keyAt)),
-                          pattern.types ? kindsNamed(match.captured(pattern.types)) : std::vector<ArgumentKind>(),
-                          u"%1:%2"_s.arg(where).arg(line)});
+            texts.append(
+                {pattern.tableAt ? match.captured(pattern.tableAt) : pattern.table,
+                 joined(match.captured(pattern.keyAt)),
+                 pattern.types ? kindsNamed(match.captured(pattern.types)) : std::vector<ArgumentKind>(),
+                 u"%1:%2"_s.arg(where).arg(line)});
         }
     return texts;
 }
 
 QList<CodeText> textsInCode(const QString& folder) {
     QList<CodeText> texts;
-    for (QDirIterator it(folder, {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+    for (QDirIterator it(folder, {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+         it.hasNext();) {
         QFile file(it.next());
-        if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("cannot read " + it.filePath().toStdString());
+        if (!file.open(QIODevice::ReadOnly))
+            throw std::runtime_error("cannot read " + it.filePath().toStdString());
         texts += textsIn(QString::fromUtf8(file.readAll()), QDir(folder).relativeFilePath(it.filePath()));
     }
     return texts;

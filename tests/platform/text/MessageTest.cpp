@@ -168,8 +168,8 @@ private Q_SLOTS:
 
     void theKindsOfAMessageAreItsArguments() {
         const auto kinds = Message<int, float, double, qint64, QString>::argumentKinds();
-        const std::array wanted{ArgumentKind::Whole, ArgumentKind::Real, ArgumentKind::Real, ArgumentKind::Whole,
-                                ArgumentKind::Text};
+        const std::array wanted{ArgumentKind::Whole, ArgumentKind::Real, ArgumentKind::Real,
+                                ArgumentKind::Whole, ArgumentKind::Text};
         QVERIFY(kinds == wanted);
         static_assert(Message<>::argumentKinds().empty());
     }
