@@ -62,9 +62,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     }
     // From here on nothing may throw: what opened can be shown and saved.
     const QJsonObject shown = document->dump();
-    const QByteArray saved = document->dataRepresentationOfType(document->kind().currentTypeName(bench.desk));
+    const QString type = document->kind().currentTypeName(bench.desk);
+    const QByteArray saved = document->dataRepresentationOfType(type);
     const auto again = open(bench, saved);
     if (again->summary().records != document->summary().records) std::abort();
+    if (again->dataRepresentationOfType(type) != saved) std::abort();
     if (auto* carnet = qobject_cast<Carnet*>(document.get())) walkThroughForm(*carnet);
     return 0;
 }

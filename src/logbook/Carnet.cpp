@@ -119,9 +119,13 @@ void Carnet::renumDives() {
     perform(QStringLiteral("Renumber dives"), std::move(dives), {last});
 }
 
-void Carnet::prevDive() { moveBy(-1); }
+void Carnet::prevDive() {
+    moveBy(-1);
+}
 
-void Carnet::nextDive() { moveBy(1); }
+void Carnet::nextDive() {
+    moveBy(1);
+}
 
 void Carnet::moveBy(int rows) {
     updateDive();
@@ -168,8 +172,9 @@ void Carnet::findTextWithField(const QString& field) {
     }
     select(matches);
     _panel.setText(panelcontrol::found,
-                   matches.size() == 1 ? strings().text({"Carnet", "One dive found"})
-                                       : strings().text(Message<int>{"Carnet", "Found dives"}, int(matches.size())));
+                   matches.size() == 1
+                       ? strings().text({"Carnet", "One dive found"})
+                       : strings().text(Message<int>{"Carnet", "Found dives"}, int(matches.size())));
 }
 
 }  // namespace sargan

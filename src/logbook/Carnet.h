@@ -86,10 +86,10 @@ public:
 
 Q_SIGNALS:
     void scrollWanted(qsizetype row);
-    void tableReloadWanted();    ///< "updateTableView"
-    void columnsChanged();       ///< "updateColumnsTableView"
-    void profileChanged();       ///< "profile"
-    void renumSheetWanted();     ///< "renumDives"
+    void tableReloadWanted();  ///< "updateTableView"
+    void columnsChanged();     ///< "updateColumnsTableView"
+    void profileChanged();     ///< "profile"
+    void renumSheetWanted();   ///< "renumDives"
 
 private:
     void observe();

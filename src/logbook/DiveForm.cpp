@@ -12,17 +12,33 @@ std::vector<ControlSpec> specsOfDiveForm() {
     return specs;
 }
 
-void show(Form& form, int control, Int value) { form.setInteger(control, value); }
-void show(Form& form, int control, Float value) { form.setText(control, shortest(value)); }
-void show(Form& form, int control, const Text& value) { form.setText(control, value); }
-void show(Form& form, int control, const Date& value) { form.setDate(control, value); }
+void show(Form& form, int control, Int value) {
+    form.setInteger(control, value);
+}
+void show(Form& form, int control, Float value) {
+    form.setText(control, shortest(value));
+}
+void show(Form& form, int control, const Text& value) {
+    form.setText(control, value);
+}
+void show(Form& form, int control, const Date& value) {
+    form.setDate(control, value);
+}
 void show(Form&, int, const Numbers&) {}
 void show(Form&, int, const Picture&) {}
 
-void take(const Form& form, int control, Int& value) { value = form.integer(control); }
-void take(const Form& form, int control, Float& value) { value = Float(form.number(control)); }
-void take(const Form& form, int control, Text& value) { value = form.text(control); }
-void take(const Form& form, int control, Date& value) { value = form.date(control); }
+void take(const Form& form, int control, Int& value) {
+    value = form.integer(control);
+}
+void take(const Form& form, int control, Float& value) {
+    value = Float(form.number(control));
+}
+void take(const Form& form, int control, Text& value) {
+    value = form.text(control);
+}
+void take(const Form& form, int control, Date& value) {
+    value = form.date(control);
+}
 void take(const Form&, int, Numbers&) {}
 void take(const Form&, int, Picture&) {}
 
@@ -48,7 +64,8 @@ NumberArray orOneSample(const NumberArray& list, bool isReal) {
 DiveForm::DiveForm(Desk& desk) : _desk(desk), _form(specsOfDiveForm()) {
     const auto controls = diveControls();
     for (int i = 0; i < _form.count(); ++i)
-        if (controls[std::size_t(i)].field) _form.addAlias(QString::fromLatin1(controls[std::size_t(i)].field->name), i);
+        if (controls[std::size_t(i)].field)
+            _form.addAlias(QString::fromLatin1(controls[std::size_t(i)].field->name), i);
     _form.addAction(QStringLiteral("razAir"), [this] { razAir(); });
     _form.addAction(QStringLiteral("razNitrox"), [this] { razNitrox(); });
     _form.addAction(QStringLiteral("razHeliox"), [this] { razHeliox(); });
@@ -106,7 +123,9 @@ void DiveForm::takeInto(Plongee& dive, int control, T Plongee::*field) const {
         if (_loaded && _form.text(control) == shortest((*_loaded).*field)) dive.*field = (*_loaded).*field;
 }
 
-void DiveForm::updateUI() { updateSlider(); }
+void DiveForm::updateUI() {
+    updateSlider();
+}
 
 void DiveForm::profilArraysDefaultContent() {
     _working.setProfilProfondeur(orOneSample(_working.profilProfondeur(), true));
@@ -118,7 +137,9 @@ void DiveForm::profilArraysDefaultContent() {
     _working.setPRESS_Data(orOneSample(_working.PRESS_Data(), true));
 }
 
-void DiveForm::razAir() { setMix(21, 79, 0); }
+void DiveForm::razAir() {
+    setMix(21, 79, 0);
+}
 
 void DiveForm::razNitrox() {
     const int o2 = _form.integer(divecontrol::o2Mix);
@@ -140,10 +161,12 @@ void DiveForm::setMix(int o2, int n2, int he) {
 }
 
 void DiveForm::updateSlider() {
-    static constexpr Message<> words[] = {{"Carnet", "Very easy"}, {"Carnet", "Easy"},      {"Carnet", "Normal"},
-                                          {"Carnet", "Hard"},      {"Carnet", "Very hard"}, {"Carnet", "Extreme"}};
+    static constexpr Message<> words[] = {{"Carnet", "Very easy"}, {"Carnet", "Easy"},
+                                          {"Carnet", "Normal"},    {"Carnet", "Hard"},
+                                          {"Carnet", "Very hard"}, {"Carnet", "Extreme"}};
     const int level = _form.tag(divecontrol::difficulte);
-    _form.setText(divecontrol::difficulteCaption, _desk.strings.text(words[level >= 0 && level < 5 ? level : 5]));
+    _form.setText(divecontrol::difficulteCaption,
+                  _desk.strings.text(words[level >= 0 && level < 5 ? level : 5]));
 }
 
 void DiveForm::checkPressures() {
@@ -170,7 +193,8 @@ void DiveForm::keepUnknownObjects(Plongee& dive) const {
     for (int i = 0; i < int(fields.size()); ++i) {
         const ArchivedObject kept = _loaded->kept(i);
         if (kept.isNil()) continue;
-        const bool same = std::visit([&](auto at) { return sameValue(dive.*at, (*_loaded).*at); }, fields[std::size_t(i)]->member);
+        const bool same = std::visit([&](auto at) { return sameValue(dive.*at, (*_loaded).*at); },
+                                     fields[std::size_t(i)]->member);
         if (same) dive.keep(i, kept);
     }
 }

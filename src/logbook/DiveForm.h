@@ -35,9 +35,9 @@ public:
     void profilArraysDefaultContent();
 
     // Gas shortcuts: they set the shares of the main tank's mix, in per cent.
-    void razAir();      ///< 21 / 79 / 0
-    void razNitrox();   ///< helium 0, nitrogen the rest
-    void razHeliox();   ///< nitrogen 0, helium the rest
+    void razAir();        ///< 21 / 79 / 0
+    void razNitrox();     ///< helium 0, nitrogen the rest
+    void razHeliox();     ///< nitrogen 0, helium the rest
     void updateSlider();  ///< the difficulty's word
 
 private:
@@ -50,8 +50,8 @@ private:
 
     Desk& _desk;
     Form _form;
-    Plongee _working;                 ///< holds the seven lists being edited
-    RecordPointer<Plongee> _loaded;   ///< the dive that the controls came from; null for a blank form
+    Plongee _working;                ///< holds the seven lists being edited
+    RecordPointer<Plongee> _loaded;  ///< the dive that the controls came from; null for a blank form
 };
 
 }  // namespace sargan

@@ -46,7 +46,9 @@ inline const RecordClass<Sample>& sampleClass() {
         F::all,
         sampleSlots,
         [](Sample& sample, qint32) { sample.setReal(-1); },
-        [](Sample& sample, qint32 version) { sample.setMemo(version * 100 + (sample.real() == -1 ? 1 : 0)); },
+        [](Sample& sample, qint32 version) {
+            sample.setMemo(Int(quint32(version) * 100 + (sample.real() == -1 ? 1 : 0)));
+        },
         realLists};
     return cls;
 }

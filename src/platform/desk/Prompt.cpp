@@ -6,9 +6,12 @@ namespace {
 
 QString described(ExpectedPrompt::Kind kind, const QString& text) {
     switch (kind) {
-        case ExpectedPrompt::Kind::Beep: return QStringLiteral("beep");
-        case ExpectedPrompt::Kind::Alert: return QStringLiteral("alert: ") + text;
-        case ExpectedPrompt::Kind::Question: return QStringLiteral("question: ") + text;
+        case ExpectedPrompt::Kind::Beep:
+            return QStringLiteral("beep");
+        case ExpectedPrompt::Kind::Alert:
+            return QStringLiteral("alert: ") + text;
+        case ExpectedPrompt::Kind::Question:
+            return QStringLiteral("question: ") + text;
     }
     return {};
 }
@@ -47,9 +50,13 @@ QStringList ScriptedPrompt::finish() {
     return std::exchange(_failures, {});
 }
 
-void ScriptedPrompt::beep() { happened(ExpectedPrompt::Kind::Beep, {}); }
+void ScriptedPrompt::beep() {
+    happened(ExpectedPrompt::Kind::Beep, {});
+}
 
-void ScriptedPrompt::alert(const QString& text) { happened(ExpectedPrompt::Kind::Alert, text); }
+void ScriptedPrompt::alert(const QString& text) {
+    happened(ExpectedPrompt::Kind::Alert, text);
+}
 
 int ScriptedPrompt::ask(const QString& text, const QStringList& buttons) {
     const int answer = happened(ExpectedPrompt::Kind::Question, text);

@@ -16,7 +16,9 @@ namespace sargan {
 
 namespace {
 
-QString settingsFile(const QString& folder) { return folder + QStringLiteral("/settings.json"); }
+QString settingsFile(const QString& folder) {
+    return folder + QStringLiteral("/settings.json");
+}
 
 }  // namespace
 
@@ -33,12 +35,13 @@ UserDefaults::UserDefaults(const QString& folder) : _folder(folder) {
         const QString aside = file + QStringLiteral(".damaged");
         QFile::remove(aside);
         const bool moved = QFile::rename(file, aside);
-        _problem = QStringLiteral("%1: the settings could not be read (byte %2: %3); %4")
-                       .arg(file)
-                       .arg(error.offset)
-                       .arg(document.isNull() ? error.errorString() : QStringLiteral("an object was expected"),
-                            moved ? QStringLiteral("they were set aside as %1").arg(aside)
-                                                       : QStringLiteral("they will be replaced"));
+        _problem =
+            QStringLiteral("%1: the settings could not be read (byte %2: %3); %4")
+                .arg(file)
+                .arg(error.offset)
+                .arg(document.isNull() ? error.errorString() : QStringLiteral("an object was expected"),
+                     moved ? QStringLiteral("they were set aside as %1").arg(aside)
+                           : QStringLiteral("they will be replaced"));
     } catch (const ReadError& error) {
         _isReadable = false;
         _problem = error.sentence();

@@ -12,7 +12,9 @@ Document::Document(const DocumentKind& kind, Desk& desk) : _kind(kind), _desk(de
 
 Document::~Document() = default;
 
-QString Document::displayName() const { return _path.isEmpty() ? _untitledName : QFileInfo(_path).fileName(); }
+QString Document::displayName() const {
+    return _path.isEmpty() ? _untitledName : QFileInfo(_path).fileName();
+}
 
 void Document::setReadOnly(bool readOnly) {
     if (_readOnly == readOnly) return;
@@ -50,14 +52,16 @@ void Document::saveTo(const QString& path, bool overwriteChanged) {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     const bool ownFile = absolute == _path;
     if (ownFile && _readOnly)
-        throw DocumentError(QStringLiteral("%1: this document was opened to look at only, so the file was left "
-                                           "alone")
-                                .arg(path));
+        throw DocumentError(
+            QStringLiteral("%1: this document was opened to look at only, so the file was left "
+                           "alone")
+                .arg(path));
     const QByteArray bytes = dataRepresentationOfType(_kind.currentTypeName(_desk));
     if (!readsBack(bytes))
-        throw DocumentError(QStringLiteral("%1: what would be written does not read back as this document, so "
-                                           "nothing was written")
-                                .arg(path));
+        throw DocumentError(
+            QStringLiteral("%1: what would be written does not read back as this document, so "
+                           "nothing was written")
+                .arg(path));
     SaveOptions options;
     options.keepBackup = true;
     options.overwriteChanged = overwriteChanged;
@@ -81,7 +85,8 @@ void Document::saveTo(const QString& path, bool overwriteChanged) {
 
 void Document::exportTo(const QString& path, const QString& type) {
     const QByteArray bytes = dataRepresentationOfType(type);
-    if (bytes.isNull()) throw DocumentError(QStringLiteral("%1: there is no export type \"%2\"").arg(path, type));
+    if (bytes.isNull())
+        throw DocumentError(QStringLiteral("%1: there is no export type \"%2\"").arg(path, type));
     saveFile(QFileInfo(path).absoluteFilePath(), bytes);
 }
 

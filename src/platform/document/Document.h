@@ -45,7 +45,8 @@ public:
     bool isReadOnly() const { return _readOnly; }
     void setReadOnly(bool readOnly);
 
-    /// Reads the file whole. Throws ReadError, ArchiveError or DocumentError; then this document is as it was.
+    /// Reads the file whole. Throws ReadError, ArchiveError or DocumentError; then this document is as it
+    /// was.
     void readFrom(const QString& path) { takeFile(path, readStampedFile(path)); }
     /// The same from a file already read.
     void takeFile(const QString& path, const ReadResult& file);

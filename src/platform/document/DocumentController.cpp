@@ -35,7 +35,8 @@ Document* DocumentController::openUntitledDocument() {
     auto document = kind->create(*kind, _desk);
     const QString untitled = _desk.strings.ui("Untitled");
     ++_untitledCount;
-    document->setUntitledName(_untitledCount == 1 ? untitled : untitled + u' ' + QString::number(_untitledCount));
+    document->setUntitledName(_untitledCount == 1 ? untitled
+                                                  : untitled + u' ' + QString::number(_untitledCount));
     return adopt(std::move(document));
 }
 
@@ -48,7 +49,9 @@ Document* DocumentController::newDocument(const DocumentKind& kind) {
 
 std::unique_ptr<Document> DocumentController::read(const QString& path) const {
     const ReadResult file = readStampedFile(path);
-    const auto withPath = [&](const QString& sentence) { return DocumentError(path + QStringLiteral(": ") + sentence); };
+    const auto withPath = [&](const QString& sentence) {
+        return DocumentError(path + QStringLiteral(": ") + sentence);
+    };
     try {
         const DocumentKind& kind = _kinds.forContent(file.bytes, path);
         auto document = kind.create(kind, _desk);

@@ -39,7 +39,8 @@ QJsonValue plainObject(const ArchivedObject& object) {
     }
     if (object.isKindOf("NSNumber")) {
         const QList<ArchivedGroup> groups = object.groups();
-        if (groups.size() > 1 && !groups[1].values.isEmpty()) return plainValue(groups[1].values[0], isFloatAt(groups[1], 0));
+        if (groups.size() > 1 && !groups[1].values.isEmpty())
+            return plainValue(groups[1].values[0], isFloatAt(groups[1], 0));
     }
     return QJsonObject{{QStringLiteral("object"), object.className()}};
 }

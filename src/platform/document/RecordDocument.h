@@ -21,7 +21,8 @@ Selection cleanSelection(Selection rows, qsizetype count);
 template <class R>
 class RecordDocument : public Document {
 public:
-    RecordDocument(const DocumentKind& kind, Desk& desk, const RecordClass<R>& cls) : Document(kind, desk), _class(cls) {}
+    RecordDocument(const DocumentKind& kind, Desk& desk, const RecordClass<R>& cls)
+        : Document(kind, desk), _class(cls) {}
 
     const RecordClass<R>& recordClass() const { return _class; }
     const Records<R>& records() const { return _now.records; }
@@ -123,7 +124,8 @@ private:
     bool sameInSlot(const Slot<R>& slot, const R& read, const R& written) const {
         if (written.hasKept()) {
             const ArchivedObject kept = written.kept(fieldIndex(_class.fields, *slot.writtenFrom));
-            if (!kept.isNil() && !sameContent(read.kept(fieldIndex(_class.fields, *slot.field)), kept)) return false;
+            if (!kept.isNil() && !sameContent(read.kept(fieldIndex(_class.fields, *slot.field)), kept))
+                return false;
         }
         return std::visit([&](auto target) { return sameSource(read.*target, written, *slot.writtenFrom); },
                           slot.field->member);

@@ -45,7 +45,9 @@ int Form::integer(int control) const {
 namespace {
 
 /// An absent text and an empty one are two values, though they look the same.
-bool isSameText(const QString& a, const QString& b) { return a == b && a.isNull() == b.isNull(); }
+bool isSameText(const QString& a, const QString& b) {
+    return a == b && a.isNull() == b.isNull();
+}
 
 }  // namespace
 
@@ -82,48 +84,69 @@ void Form::setInteger(int control, int value) {
         setTag(control, value);
 }
 
-void Form::setTag(int control, int tag) { assign(control, &ControlState::tag, tag); }
+void Form::setTag(int control, int tag) {
+    assign(control, &ControlState::tag, tag);
+}
 
-void Form::setDate(int control, const Moment& date) { assign(control, &ControlState::date, date); }
+void Form::setDate(int control, const Moment& date) {
+    assign(control, &ControlState::date, date);
+}
 
-void Form::setImage(int control, const QByteArray& bytes) { assign(control, &ControlState::image, bytes); }
+void Form::setImage(int control, const QByteArray& bytes) {
+    assign(control, &ControlState::image, bytes);
+}
 
-void Form::setColor(int control, const QColor& color) { assign(control, &ControlState::color, color); }
+void Form::setColor(int control, const QColor& color) {
+    assign(control, &ControlState::color, color);
+}
 
-void Form::setEnabled(int control, bool enabled) { assign(control, &ControlState::enabled, enabled); }
+void Form::setEnabled(int control, bool enabled) {
+    assign(control, &ControlState::enabled, enabled);
+}
 
-void Form::setHidden(int control, bool hidden) { assign(control, &ControlState::hidden, hidden); }
+void Form::setHidden(int control, bool hidden) {
+    assign(control, &ControlState::hidden, hidden);
+}
 
 void Form::fill(int control, const QString& value) {
     const QString name = QString::fromLatin1(spec(control).name);
     switch (spec(control).kind) {
-        case ControlKind::Caption: throw ControlValueError(name, QStringLiteral("is shown only, it takes no value"));
+        case ControlKind::Caption:
+            throw ControlValueError(name, QStringLiteral("is shown only, it takes no value"));
         case ControlKind::Date:
         case ControlKind::Time: {
             const Moment date = Moment::fromIso(value);
             if (!date.isPresent() && !value.isEmpty())
-                throw ControlValueError(name, QStringLiteral("\"%1\" is not a date or time such as 2016-06-07, 14:30 "
-                                                             "or 2016-06-07T14:30:00")
-                                                  .arg(value));
+                throw ControlValueError(
+                    name, QStringLiteral("\"%1\" is not a date or time such as 2016-06-07, 14:30 "
+                                         "or 2016-06-07T14:30:00")
+                              .arg(value));
             setDate(control, date);
             break;
         }
         case ControlKind::PopUp:
-        case ControlKind::Slider: setTag(control, wholeNumber(name, value)); break;
+        case ControlKind::Slider:
+            setTag(control, wholeNumber(name, value));
+            break;
         case ControlKind::Switch: {
             const int state = wholeNumber(name, value);
-            if (state != 0 && state != 1) throw ControlValueError(name, QStringLiteral("a switch takes 0 or 1"));
+            if (state != 0 && state != 1)
+                throw ControlValueError(name, QStringLiteral("a switch takes 0 or 1"));
             setTag(control, state);
             break;
         }
-        case ControlKind::Image: setImage(control, value.isEmpty() ? QByteArray() : readFile(value)); break;
+        case ControlKind::Image:
+            setImage(control, value.isEmpty() ? QByteArray() : readFile(value));
+            break;
         case ControlKind::Color: {
             const QColor color = QColor::fromString(value);
-            if (!color.isValid()) throw ControlValueError(name, QStringLiteral("\"%1\" is not a colour").arg(value));
+            if (!color.isValid())
+                throw ControlValueError(name, QStringLiteral("\"%1\" is not a colour").arg(value));
             setColor(control, color);
             break;
         }
-        default: setText(control, value);
+        default:
+            setText(control, value);
     }
     endEditing(control);
 }
@@ -151,13 +174,18 @@ QString Form::shownText(int control, const Strings& strings) const {
             for (const MenuItem& item : spec(control).menu)
                 if (item.tag == shown.tag) return strings.text(item.words);
             return {};
-        case ControlKind::Date: return shown.date.local().toString(QStringLiteral("dd/MM/yyyy"));
-        case ControlKind::Time: return shown.date.local().toString(QStringLiteral("HH:mm"));
+        case ControlKind::Date:
+            return shown.date.local().toString(QStringLiteral("dd/MM/yyyy"));
+        case ControlKind::Time:
+            return shown.date.local().toString(QStringLiteral("HH:mm"));
         case ControlKind::Switch:
-        case ControlKind::Slider: return QString::number(shown.tag);
+        case ControlKind::Slider:
+            return QString::number(shown.tag);
         case ControlKind::Image:
-        case ControlKind::Color: return {};
-        default: return shown.text;
+        case ControlKind::Color:
+            return {};
+        default:
+            return shown.text;
     }
 }
 

@@ -28,22 +28,32 @@ std::optional<double> readNumber(const QJsonValue& json) {
     return std::nullopt;
 }
 
-bool isInt32(double value) { return value == std::trunc(value) && std::abs(value) <= 2147483648.0 && value != 2147483648.0; }
+bool isInt32(double value) {
+    return value == std::trunc(value) && std::abs(value) <= 2147483648.0 && value != 2147483648.0;
+}
 
 }  // namespace
 
-QJsonValue number(double value) { return std::isfinite(value) ? QJsonValue(value) : QJsonValue(shortest(value)); }
+QJsonValue number(double value) {
+    return std::isfinite(value) ? QJsonValue(value) : QJsonValue(shortest(value));
+}
 
-QJsonValue value(Int field) { return field; }
+QJsonValue value(Int field) {
+    return field;
+}
 
 QJsonValue value(Float field) {
     // The shortest decimals of the float, as a double: 12.3, where widening would show 12.300000190734863.
     return std::isfinite(field) ? QJsonValue(shortest(field).toDouble()) : QJsonValue(shortest(field));
 }
 
-QJsonValue value(const Text& field) { return field.isNull() ? QJsonValue() : QJsonValue(field); }
+QJsonValue value(const Text& field) {
+    return field.isNull() ? QJsonValue() : QJsonValue(field);
+}
 
-QJsonValue value(const Date& field) { return field.isPresent() ? QJsonValue(field.iso()) : QJsonValue(); }
+QJsonValue value(const Date& field) {
+    return field.isPresent() ? QJsonValue(field.iso()) : QJsonValue();
+}
 
 QJsonValue value(const Numbers& field) {
     if (field.isAbsent()) return {};
@@ -116,8 +126,10 @@ void read(const QJsonValue& json, const QString& path, ListKind, Picture& field)
     if (json.isNull()) return;
     const QJsonValue base64 = json.toObject().value(QLatin1String("base64"));
     if (!base64.isString()) wrong(path, "a picture {\"image\": …, \"base64\": …} or null");
-    const auto decoded = QByteArray::fromBase64Encoding(base64.toString().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
-    if (decoded.decodingStatus != QByteArray::Base64DecodingStatus::Ok) wrong(path + QStringLiteral(".base64"), "base64 text");
+    const auto decoded =
+        QByteArray::fromBase64Encoding(base64.toString().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+    if (decoded.decodingStatus != QByteArray::Base64DecodingStatus::Ok)
+        wrong(path + QStringLiteral(".base64"), "base64 text");
     field.bytes = *decoded;
 }
 

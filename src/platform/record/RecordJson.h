@@ -18,13 +18,14 @@ public:
 
 namespace json {
 
-/// Finite numbers as they are, floats in the shortest decimals that read back; others as "inf", "-inf", "nan".
+/// Finite numbers as they are, floats in the shortest decimals that read back; others as "inf", "-inf",
+/// "nan".
 QJsonValue number(double value);
 
 QJsonValue value(Int field);
 QJsonValue value(Float field);
-QJsonValue value(const Text& field);   ///< null when absent
-QJsonValue value(const Date& field);   ///< local ISO 8601 with seconds, null when absent
+QJsonValue value(const Text& field);     ///< null when absent
+QJsonValue value(const Date& field);     ///< local ISO 8601 with seconds, null when absent
 QJsonValue value(const Numbers& field);  ///< an array; elements without a value are null
 QJsonValue value(const Picture& field);  ///< {"image": kind, "base64": bytes}, null when absent
 
@@ -45,7 +46,9 @@ template <class R>
 QJsonObject recordToJson(const R& record, FieldList<R> fields) {
     QJsonObject object;
     for (const Field<R>* field : fields)
-        field->visit(record, [&](const auto& value) { object.insert(QLatin1String(field->name), json::value(value)); });
+        field->visit(record, [&](const auto& value) {
+            object.insert(QLatin1String(field->name), json::value(value));
+        });
     return object;
 }
 
@@ -56,12 +59,14 @@ R recordFromJson(const QJsonObject& object, const QString& path, const RecordCla
     R record;
     for (auto it = object.begin(); it != object.end(); ++it) {
         const QString at = path + u'.' + it.key();
-        const auto known = std::find_if(cls.fields.begin(), cls.fields.end(),
-                                        [&](const Field<R>* field) { return it.key() == QLatin1String(field->name); });
+        const auto known = std::find_if(cls.fields.begin(), cls.fields.end(), [&](const Field<R>* field) {
+            return it.key() == QLatin1String(field->name);
+        });
         if (known == cls.fields.end()) throw JsonError(at, QStringLiteral("unknown field"));
         R scratch;
         R& target = cls.archives(**known) ? record : scratch;
-        const json::ListKind kind = cls.isRealList(**known) ? json::ListKind::Reals : json::ListKind::Integers;
+        const json::ListKind kind =
+            cls.isRealList(**known) ? json::ListKind::Reals : json::ListKind::Integers;
         (*known)->visit(target, [&](auto& value) { json::read(it.value(), at, kind, value); });
     }
     return record;

@@ -16,42 +16,70 @@ qint32 wholeOf(Float value) {
 
 }  // namespace
 
-void read(ArchiveReader& reader, SlotForm, Int& value, ArchivedObject&) { value = reader.readInt(); }
+void read(ArchiveReader& reader, SlotForm, Int& value, ArchivedObject&) {
+    value = reader.readInt();
+}
 
 void read(ArchiveReader& reader, SlotForm form, Float& value, ArchivedObject&) {
     switch (form) {
-        case SlotForm::Plain: value = reader.readFloat(); break;
-        case SlotForm::OldInt: value = Float(reader.readInt()); break;
-        case SlotForm::Bits: value = std::bit_cast<Float>(reader.readInt()); break;
+        case SlotForm::Plain:
+            value = reader.readFloat();
+            break;
+        case SlotForm::OldInt:
+            value = Float(reader.readInt());
+            break;
+        case SlotForm::Bits:
+            value = std::bit_cast<Float>(reader.readInt());
+            break;
     }
 }
 
-void read(ArchiveReader& reader, SlotForm, Text& value, ArchivedObject& kept) { value = reader.readText(kept); }
+void read(ArchiveReader& reader, SlotForm, Text& value, ArchivedObject& kept) {
+    value = reader.readText(kept);
+}
 
-void read(ArchiveReader& reader, SlotForm, Date& value, ArchivedObject& kept) { value = reader.readMoment(kept); }
+void read(ArchiveReader& reader, SlotForm, Date& value, ArchivedObject& kept) {
+    value = reader.readMoment(kept);
+}
 
-void read(ArchiveReader& reader, SlotForm, Numbers& value, ArchivedObject& kept) { value = reader.readNumbers(kept); }
+void read(ArchiveReader& reader, SlotForm, Numbers& value, ArchivedObject& kept) {
+    value = reader.readNumbers(kept);
+}
 
 void read(ArchiveReader& reader, SlotForm, Picture& value, ArchivedObject& kept) {
     kept = reader.readObject();
     value.bytes = kept.pictureBytes();
 }
 
-void write(ArchiveWriter& writer, SlotForm, const Int& value) { writer.writeInt(value); }
+void write(ArchiveWriter& writer, SlotForm, const Int& value) {
+    writer.writeInt(value);
+}
 
 void write(ArchiveWriter& writer, SlotForm form, const Float& value) {
     switch (form) {
-        case SlotForm::Plain: writer.writeFloat(value); break;
-        case SlotForm::OldInt: writer.writeInt(wholeOf(value)); break;
-        case SlotForm::Bits: writer.writeInt(std::bit_cast<qint32>(value)); break;
+        case SlotForm::Plain:
+            writer.writeFloat(value);
+            break;
+        case SlotForm::OldInt:
+            writer.writeInt(wholeOf(value));
+            break;
+        case SlotForm::Bits:
+            writer.writeInt(std::bit_cast<qint32>(value));
+            break;
     }
 }
 
-void write(ArchiveWriter& writer, SlotForm, const Text& value) { writer.writeText(value); }
+void write(ArchiveWriter& writer, SlotForm, const Text& value) {
+    writer.writeText(value);
+}
 
-void write(ArchiveWriter& writer, SlotForm, const Date& value) { writer.writeMoment(value); }
+void write(ArchiveWriter& writer, SlotForm, const Date& value) {
+    writer.writeMoment(value);
+}
 
-void write(ArchiveWriter& writer, SlotForm, const Numbers& value) { writer.writeNumbers(value); }
+void write(ArchiveWriter& writer, SlotForm, const Numbers& value) {
+    writer.writeNumbers(value);
+}
 
 void write(ArchiveWriter& writer, SlotForm, const Picture& value) {
     if (value.isAbsent()) return writer.writeNil();
@@ -81,8 +109,8 @@ QString versionWords(int first, int last) {
 
 }  // namespace
 
-SlotDescription describeSlot(int number, const char* field, const char* writtenFrom, char type, int firstVersion,
-                             int lastVersion, SlotForm form) {
+SlotDescription describeSlot(int number, const char* field, const char* writtenFrom, char type,
+                             int firstVersion, int lastVersion, SlotForm form) {
     QString remark;
     if (form == SlotForm::Bits) remark = QStringLiteral("the 32 bits of the float, as an integer");
     if (form == SlotForm::OldInt) remark = QStringLiteral("a whole number in these versions");

@@ -170,7 +170,8 @@ void writeSlot(ArchiveWriter& writer, const RecordClass<R>& cls, const Slot<R>& 
 /// An archive of these records, as the class's current version or, for tests, as another one. The same
 /// record twice in the list is written once and referenced.
 template <class R>
-QByteArray writeRecords(const Records<R>& records, const RecordClass<R>& cls, std::optional<qint32> asVersion = {}) {
+QByteArray writeRecords(const Records<R>& records, const RecordClass<R>& cls,
+                        std::optional<qint32> asVersion = {}) {
     const qint32 version = asVersion.value_or(cls.version);
     const ArchiveClass archived{cls.name, version, &archiveclass::object};
     ArchiveWriter writer;
@@ -193,8 +194,8 @@ struct SlotDescription {
     QString versions;  ///< "all", "24 and later", "up to 26"
     QString remark;    ///< empty when the slot is plain
 };
-SlotDescription describeSlot(int number, const char* field, const char* writtenFrom, char type, int firstVersion,
-                             int lastVersion, SlotForm form);
+SlotDescription describeSlot(int number, const char* field, const char* writtenFrom, char type,
+                             int firstVersion, int lastVersion, SlotForm form);
 template <class R>
 QList<SlotDescription> describeSlots(const RecordClass<R>& cls) {
     QList<SlotDescription> rows;

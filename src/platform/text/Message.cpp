@@ -10,7 +10,7 @@ namespace {
 
 struct Placeholder {
     qsizetype begin = 0;
-    qsizetype end = 0;   ///< one past its last character
+    qsizetype end = 0;  ///< one past its last character
     int width = 0;
     int precision = -1;  ///< none
     QChar conversion;    ///< '%' for an escaped per cent sign, null for a malformed one
@@ -48,8 +48,8 @@ QString plain(const FormatArgument& argument) {
 /// Rounded as C formats round: exactly, and a tie to the even digit (2.25 gives 2.2 where QString says 2.3).
 QString fixedPoint(double value, int precision) {
     std::string digits(400 + std::size_t(precision), '\0');  // the largest double has 309 before the point
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed,
-                                   precision);
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                   std::chars_format::fixed, precision);
     return QString::fromLatin1(digits.data(), end.ptr - digits.data());
 }
 
@@ -124,8 +124,12 @@ QString shortestOf(Real value) {
 
 }  // namespace
 
-QString shortest(double value) { return shortestOf(value); }
+QString shortest(double value) {
+    return shortestOf(value);
+}
 
-QString shortest(float value) { return shortestOf(value); }
+QString shortest(float value) {
+    return shortestOf(value);
+}
 
 }  // namespace sargan

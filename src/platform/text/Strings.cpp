@@ -4,7 +4,9 @@
 
 namespace sargan {
 
-Strings::Strings(Language language) { setLanguage(language); }
+Strings::Strings(Language language) {
+    setLanguage(language);
+}
 
 Strings::~Strings() = default;
 
@@ -41,7 +43,8 @@ QString Strings::lookup(const char* key, const char* fallback, const char* table
 }
 
 QString Strings::filled(const char* key, const char* fallback, const char* table,
-                        std::span<const ArgumentKind> kinds, std::span<const FormatArgument> arguments) const {
+                        std::span<const ArgumentKind> kinds,
+                        std::span<const FormatArgument> arguments) const {
     if (_language == Language::Keys) {
         QString shown = QString::fromUtf8(key);
         for (const FormatArgument& argument : arguments)
@@ -55,9 +58,9 @@ QString Strings::filled(const char* key, const char* fallback, const char* table
 
 bool placeholdersTake(QStringView format, std::span<const ArgumentKind> kinds) {
     const std::vector<ArgumentKind> found = placeholdersOf(format);
-    return std::equal(found.begin(), found.end(), kinds.begin(), kinds.end(), [](ArgumentKind has, ArgumentKind given) {
-        return has == given || has == ArgumentKind::Text;
-    });
+    return std::equal(
+        found.begin(), found.end(), kinds.begin(), kinds.end(),
+        [](ArgumentKind has, ArgumentKind given) { return has == given || has == ArgumentKind::Text; });
 }
 
 }  // namespace sargan

@@ -30,12 +30,15 @@ public:
     QString lookup(const char* key, const char* fallback, const char* table) const;
 
     /// The text of a message that takes no argument.
-    QString text(const Message<>& message) const { return lookup(message.key, message.fallback, message.table); }
+    QString text(const Message<>& message) const {
+        return lookup(message.key, message.fallback, message.table);
+    }
 
     /// A message filled with its arguments. A catalogue entry whose placeholders do not take them is passed
     /// over in favour of the fallback.
     template <typename... Arguments>
-    QString text(const Message<Arguments...>& message, const std::type_identity_t<Arguments>&... arguments) const {
+    QString text(const Message<Arguments...>& message,
+                 const std::type_identity_t<Arguments>&... arguments) const {
         const std::array<FormatArgument, sizeof...(Arguments)> list{argument(arguments)...};
         const auto kinds = Message<Arguments...>::argumentKinds();
         return filled(message.key, message.fallback, message.table, kinds, list);
@@ -56,8 +59,8 @@ private:
         else
             return QString(value);
     }
-    QString filled(const char* key, const char* fallback, const char* table, std::span<const ArgumentKind> kinds,
-                   std::span<const FormatArgument> arguments) const;
+    QString filled(const char* key, const char* fallback, const char* table,
+                   std::span<const ArgumentKind> kinds, std::span<const FormatArgument> arguments) const;
 
     Language _language = Language::English;
     std::vector<std::unique_ptr<QTranslator>> _catalogues;
