@@ -25,7 +25,8 @@ struct Bench {
     UserDefaults defaults;
     Strings strings;
     NotificationCenter notifications;
-    Desk desk{prompt, defaults, strings, notifications, Clock(QDateTime(QDate(2016, 6, 7), QTime(14, 30))),
+    PickLists pickLists{defaults};
+    Desk desk{prompt, defaults, strings, notifications, pickLists, Clock(QDateTime(QDate(2016, 6, 7), QTime(14, 30))),
               Log()};
     SaveTypes saveTypes = makeSaveTypes();
     DocumentKinds kinds = makeDocumentKinds(saveTypes);

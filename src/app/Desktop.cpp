@@ -64,7 +64,8 @@ int runSuite(const cli::GlobalOptions& options, const QStringList& files) {
     Strings strings(options.language.value_or(Strings::systemLanguage()));
     DesktopPrompt prompt(strings);
     NotificationCenter notifications;
-    Desk desk{prompt, defaults, strings, notifications, Clock(options.now), Log()};
+    PickLists pickLists(defaults);
+    Desk desk{prompt, defaults, strings, notifications, pickLists, Clock(options.now), Log()};
     const SaveTypes saveTypes = makeSaveTypes();
     const DocumentKinds kinds = makeDocumentKinds(saveTypes);
     DesktopSuite suite(kinds, desk);

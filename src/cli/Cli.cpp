@@ -41,7 +41,9 @@ int runCommand(const Command& command, const GlobalOptions& options) {
 std::span<const Command> commands() {
     static const std::vector<Command> all = [] {
         std::vector<Command> list;
-        for (const auto part : {documentCommands(), logbookCommands(), calculatorCommands(), pageCommands()})
+        for (const auto part : {documentCommands(), tableCommands(), registerCommands(), logbookCommands(),
+                                interchangeCommands(), profileCommands(), statsCommands(), settingsCommands(),
+                                calculatorCommands(), pageCommands()})
             list.insert(list.end(), part.begin(), part.end());
         return list;
     }();

@@ -24,6 +24,12 @@ const Command* findCommand(const QString& name);
 /// The commands, by subject.
 std::span<const Command> documentCommands();
 std::span<const Command> logbookCommands();
+std::span<const Command> settingsCommands();
+std::span<const Command> profileCommands();
+std::span<const Command> interchangeCommands();
+std::span<const Command> tableCommands();
+std::span<const Command> statsCommands();
+std::span<const Command> registerCommands();
 std::span<const Command> calculatorCommands();
 std::span<const Command> pageCommands();
 

@@ -12,7 +12,8 @@ Session::Session(const GlobalOptions& options)
     : _defaults(options.settings),
       _prompt(options.agree),
       _strings(options.language.value_or(Strings::systemLanguage())),
-      _desk{_prompt, _defaults, _strings, _notifications, Clock(options.now), Log()},
+      _pickLists(_defaults),
+      _desk{_prompt, _defaults, _strings, _notifications, _pickLists, Clock(options.now), Log()},
       _saveTypes(makeSaveTypes()),
       _kinds(makeDocumentKinds(_saveTypes)),
       _controller(_kinds, _desk) {

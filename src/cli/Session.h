@@ -41,6 +41,7 @@ private:
     TerminalPrompt _prompt;
     Strings _strings;
     NotificationCenter _notifications;
+    PickLists _pickLists;
     Desk _desk;
     SaveTypes _saveTypes;
     DocumentKinds _kinds;

@@ -38,10 +38,12 @@ private:
     sargan::UserDefaults _defaults;
     sargan::Strings _strings;
     sargan::NotificationCenter _notifications;
+    sargan::PickLists _pickLists{_defaults};
     QStringList _log;
-    sargan::Desk _desk{_prompt,         _defaults,
-                       _strings,        _notifications,
-                       sargan::Clock(), sargan::Log([this](const QString& line) { _log << line; })};
+    sargan::Desk _desk{_prompt,    _defaults,
+                       _strings,   _notifications,
+                       _pickLists, sargan::Clock(),
+                       sargan::Log([this](const QString& line) { _log << line; })};
     sargan::Calculator _calculator;
 };
 

@@ -12,11 +12,16 @@ struct TestDesk {
     UserDefaults defaults;
     Strings strings{Strings::Language::English};
     NotificationCenter notifications;
-    Desk desk{prompt, defaults, strings, notifications, Clock(QDateTime(QDate(2016, 6, 7), QTime(14, 30))), Log()};
+    PickLists pickLists{defaults};
+    Desk desk{prompt,        defaults,  strings,
+              notifications, pickLists, Clock(QDateTime(QDate(2016, 6, 7), QTime(14, 30))),
+              Log()};
     SaveTypes saveTypes = makeSaveTypes();
     DocumentKinds kinds = makeDocumentKinds(saveTypes);
 
-    std::unique_ptr<Carnet> newLogbook() { return std::make_unique<Carnet>(kinds.standard(), desk, saveTypes); }
+    std::unique_ptr<Carnet> newLogbook() {
+        return std::make_unique<Carnet>(kinds.standard(), desk, saveTypes);
+    }
 };
 
 }  // namespace sargan

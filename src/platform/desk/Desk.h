@@ -3,6 +3,7 @@
 #include "platform/desk/Clock.h"
 #include "platform/desk/Log.h"
 #include "platform/desk/NotificationCenter.h"
+#include "platform/desk/PickLists.h"
 #include "platform/desk/Prompt.h"
 #include "platform/desk/UserDefaults.h"
 #include "platform/text/Strings.h"
@@ -16,6 +17,7 @@ struct Desk {
     UserDefaults& defaults;
     Strings& strings;
     NotificationCenter& notifications;
+    PickLists& pickLists;
     Clock clock;
     Log log;
 };

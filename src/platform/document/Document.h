@@ -13,6 +13,7 @@ namespace sargan {
 
 class DocumentLock;
 class RecordEditor;
+class TableSource;
 
 /// What `info` tells of a document.
 struct DocumentSummary {
@@ -75,6 +76,8 @@ public:
     virtual void loadRecords(const QJsonArray& records) = 0;
     /// Null when this kind of document cannot be edited.
     virtual RecordEditor* editor() { return nullptr; }
+    /// Its list as a table; null when it has none.
+    virtual TableSource* table() { return nullptr; }
 
     // --- Its edits ---
 

@@ -15,7 +15,7 @@ void Strings::setLanguage(Language language) {
     _catalogues.clear();
     if (language == Language::Keys) return;
     const QString ending = language == Language::French ? QStringLiteral("_fr.qm") : QStringLiteral("_en.qm");
-    for (const char* subject : {"sargan", "calculators"}) {
+    for (const char* subject : {"sargan", "calculators", "settings", "profile", "logbook", "interchange", "stats", "registers"}) {
         auto catalogue = std::make_unique<QTranslator>();
         if (catalogue->load(QStringLiteral(":/i18n/") + QLatin1String(subject) + ending))
             _catalogues.push_back(std::move(catalogue));

@@ -71,7 +71,7 @@ std::unique_ptr<ControlBinder> binderFor(Form& form, int control, const Desk& de
         case ControlKind::Area:
             return std::make_unique<AreaBinder>(form, control, parent);
         case ControlKind::Combo:
-            return std::make_unique<ComboBinder>(form, control, desk.defaults, parent);
+            return std::make_unique<ComboBinder>(form, control, desk.pickLists, parent);
         case ControlKind::Date:
             return std::make_unique<DateBinder>(form, control, parent);
         case ControlKind::Time:

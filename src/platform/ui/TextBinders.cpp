@@ -88,8 +88,8 @@ void AreaBinder::applyLock(bool locked, bool enabled) {
     _edit->setEnabled(enabled);
 }
 
-ComboBinder::ComboBinder(Form& form, int control, const UserDefaults& defaults, QWidget* parent)
-    : ControlBinder(form, control), _defaults(defaults), _combo(new QComboBox(parent)) {
+ComboBinder::ComboBinder(Form& form, int control, const PickLists& pickLists, QWidget* parent)
+    : ControlBinder(form, control), _pickLists(pickLists), _combo(new QComboBox(parent)) {
     _combo->setEditable(true);
     _combo->setInsertPolicy(QComboBox::NoInsert);
     _combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -150,7 +150,7 @@ void ComboBinder::matchLetters(bool exactly) {
 
 QStringList ComboBinder::choices() const {
     const ControlSpec& spec = form().spec(control());
-    if (spec.pickList) return _defaults.list(QLatin1String(spec.pickList));
+    if (spec.pickList) return _pickLists.list(QLatin1String(spec.pickList));
     QStringList texts;
     for (const char* choice : spec.choices) texts << QString::fromUtf8(choice);
     return texts;

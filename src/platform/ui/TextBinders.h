@@ -49,7 +49,7 @@ private:
 /// A text with choices. A pick list is read anew whenever the person comes to the control, since it grows.
 class ComboBinder : public ControlBinder {
 public:
-    ComboBinder(Form& form, int control, const UserDefaults& defaults, QWidget* parent);
+    ComboBinder(Form& form, int control, const PickLists& pickLists, QWidget* parent);
     QWidget* widget() const override;
     bool grows() const override { return true; }
     void setCharacters(int count) override;
@@ -66,7 +66,7 @@ private:
     void matchLetters(bool exactly);
     void take(const QString& text);
 
-    const UserDefaults& _defaults;
+    const PickLists& _pickLists;
     QComboBox* _combo;
 };
 

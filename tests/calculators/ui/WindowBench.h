@@ -55,7 +55,8 @@ public:
     sargan::UserDefaults defaults;
     sargan::Strings strings;
     sargan::NotificationCenter notifications;
-    sargan::Desk desk{prompt, defaults, strings, notifications, sargan::Clock(), sargan::Log()};
+    sargan::PickLists pickLists{defaults};
+    sargan::Desk desk{prompt, defaults, strings, notifications, pickLists, sargan::Clock(), sargan::Log()};
     sargan::CalculatorWindows windows{desk};
     sargan::CalculatorWindow* window = nullptr;
 };

@@ -3,5 +3,6 @@
 
 int main(int argc, char** argv) {
     return runTests(argc, argv,
-                    {runPromptTest, runNotificationCenterTest, runUserDefaultsTest, runUserDefaultsFileTest});
+                    {runPromptTest, runNotificationCenterTest, runPickListsTest, runUserDefaultsTest,
+                     runUserDefaultsFileTest});
 }

@@ -69,11 +69,11 @@ private Q_SLOTS:
             for (int i = 0; i < combo->count(); ++i) texts << combo->itemText(i);
             return texts;
         };
-        window.desk.defaults.store(u"places"_s, QJsonArray{u"Brest"_s, u"Cannes"_s});
+        window.keepPlaces({u"Brest"_s, u"Cannes"_s});
         QTest::mouseClick(combo->lineEdit(), Qt::LeftButton);
         QCOMPARE(offered(), (QStringList{u"Brest"_s, u"Cannes"_s}));
         QCOMPARE(combo->currentText(), QString());
-        window.desk.defaults.store(u"places"_s, QJsonArray{u"Brest"_s, u"Cannes"_s, u"Dieppe"_s});
+        window.keepPlaces({u"Brest"_s, u"Cannes"_s, u"Dieppe"_s});
         QTest::mouseClick(combo->lineEdit(), Qt::LeftButton);
         QCOMPARE(offered().size(), 3);
         combo->setFocus();
@@ -83,7 +83,7 @@ private Q_SLOTS:
 
     void returnDoesNotReplaceWhatWasTypedByAnEntryInOtherLetters() {
         SampleWindow window;
-        window.desk.defaults.store(u"places"_s, QJsonArray{u"Brest"_s});
+        window.keepPlaces({u"Brest"_s});
         auto* combo = window.widget<QComboBox>("placeField");
         QTest::mouseClick(combo->lineEdit(), Qt::LeftButton);
         combo->setFocus();

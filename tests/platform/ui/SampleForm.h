@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QJsonArray>
+
 #include "platform/form/WindowLayout.h"
 #include "platform/ui/FormView.h"
 #include "support/FormWalk.h"
@@ -52,6 +54,12 @@ struct SampleWindow {
         view->activateWindow();
     }
 
+    /// The pick list of the form's combo box becomes these entries.
+    void keepPlaces(const QStringList& places) {
+        const QString key = QStringLiteral("places");
+        desk.defaults.store(key, QJsonArray::fromStringList(places));
+        desk.pickLists.load(key);
+    }
     int at(const char* name) const { return form[ControlName{name}]; }
     template <class W = QWidget>
     W* widget(const char* name) const {
