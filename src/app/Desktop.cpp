@@ -2,9 +2,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QLibraryInfo>
 #include <QTimer>
-#include <QTranslator>
 #include <cstdio>
 
 #include "app/DesktopSuite.h"
@@ -17,6 +15,8 @@
 #include "platform/ui/DesktopPrompt.h"
 #include "platform/ui/DocumentWindow.h"
 #include "platform/ui/Icons.h"
+#include "settings/InterfaceChoice.h"
+#include "settings/RegisteredDefaults.h"
 
 namespace sargan {
 
@@ -40,13 +40,10 @@ QStringList filesAmong(const QStringList& words) {
 }
 
 /// What can wait until the first window is on screen.
-void finishStarting(const Strings& strings, SingleInstance& instance) {
+void finishStarting(InterfaceKeeper& interface, SingleInstance& instance) {
     QApplication::setWindowIcon(iconNamed("sargan"));
     instance.listen();
-    if (strings.language() != Strings::Language::French) return;
-    auto* toolkit = new QTranslator(qApp);
-    if (toolkit->load(u"qtbase_fr"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(toolkit);
+    interface.loadToolkitTexts();
 }
 
 void reportFirstPaint(DocumentWindow* window) {
@@ -61,10 +58,12 @@ int runSuite(const cli::GlobalOptions& options, const QStringList& files) {
     SingleInstance instance(SingleInstance::nameFor(options.settings));
     if (!isMeasured && instance.handOver(files)) return 0;
     UserDefaults defaults(options.settings);
-    Strings strings(options.language.value_or(Strings::systemLanguage()));
+    Strings strings(options.language.value_or(preferredLanguage(defaults)));
     DesktopPrompt prompt(strings);
+    defaults.onProblem = [&prompt](const QString& problem) { prompt.alert(problem); };
     NotificationCenter notifications;
     PickLists pickLists(defaults);
+    registerDefaults(defaults, pickLists);
     Desk desk{prompt, defaults, strings, notifications, pickLists, Clock(options.now), Log()};
     const SaveTypes saveTypes = makeSaveTypes();
     const DocumentKinds kinds = makeDocumentKinds(saveTypes);
@@ -75,7 +74,7 @@ int runSuite(const cli::GlobalOptions& options, const QStringList& files) {
     QTimer::singleShot(0, &suite, [&] {
         suite.launch(files);
         if (!defaults.problem().isEmpty()) prompt.alert(defaults.problem());
-        if (!isMeasured) QTimer::singleShot(50, &suite, [&] { finishStarting(strings, instance); });
+        if (!isMeasured) QTimer::singleShot(50, &suite, [&] { finishStarting(suite.interface(), instance); });
     });
     return QApplication::exec();
 }

@@ -3,6 +3,7 @@
 #include "app/MainMenu.h"
 #include "app/ReminderWindow.h"
 #include "app/StartWindow.h"
+#include "interchange/ui/InterchangeActions.h"
 #include "platform/ui/DocumentWindow.h"
 
 namespace sargan {
@@ -12,9 +13,13 @@ DesktopSuite::DesktopSuite(const DocumentKinds& kinds, Desk& desk)
       _controller(kinds, desk),
       _windows(_controller),
       _saving(_controller, choosers),
-      _delegate(desk) {
+      _delegate(desk),
+      _interface(desk, _windows) {
     choosers = desktopFileChoosers(_controller);
     connect(&_windows, &DocumentWindows::windowMade, this, &DesktopSuite::equip);
+    connect(&_interface, &InterfaceKeeper::languageChanged, this, [this] {
+        if (_startWindow && _startWindow->isVisible()) showStartWindowIfNothingElse();
+    });
     connect(&_controller, &MyDocumentController::penseBeteClosed, this, &DesktopSuite::finishIfNothingIsLeft);
 }
 
@@ -54,8 +59,17 @@ void DesktopSuite::equip(DocumentWindow* window) {
     connect(
         window, &DocumentWindow::closeWanted, this, [this, window] { closeWindow(window); },
         Qt::QueuedConnection);
-    connect(window, &DocumentWindow::filesDropped, this, &DesktopSuite::openFiles, Qt::QueuedConnection);
+    connect(
+        window, &DocumentWindow::filesDropped, this,
+        [this, window](const QStringList& files) { takeDropped(window, files); }, Qt::QueuedConnection);
     if (_startWindow) _startWindow.release()->deleteLater();
+}
+
+void DesktopSuite::takeDropped(DocumentWindow* window, const QStringList& files) {
+    const auto open = _windows.all();
+    const bool isOpen = std::find(open.begin(), open.end(), window) != open.end();
+    auto* interchange = isOpen ? window->findChild<InterchangeActions*>() : nullptr;
+    openFiles(interchange ? interchange->takeDropped(files) : files);
 }
 
 void DesktopSuite::closeWindow(DocumentWindow* window) {

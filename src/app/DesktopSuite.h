@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/DocumentSaving.h"
 #include "app/DocumentWindows.h"
+#include "app/InterfaceKeeper.h"
 #include "app/MyDocumentController.h"
 
 namespace sargan {
@@ -21,6 +22,7 @@ public:
     DocumentWindows& windows() { return _windows; }
     DocumentSaving& saving() { return _saving; }
     AppDelegate& delegate() { return _delegate; }
+    InterfaceKeeper& interface() { return _interface; }
     /// Null unless launching left the person without any document window.
     StartWindow* startWindow() const { return _startWindow.get(); }
 
@@ -42,6 +44,7 @@ Q_SIGNALS:
 
 private:
     void equip(DocumentWindow* window);
+    void takeDropped(DocumentWindow* window, const QStringList& files);
     void closeWindow(DocumentWindow* window);
     void showStartWindowIfNothingElse();
     void finishIfNothingIsLeft();
@@ -50,6 +53,7 @@ private:
     DocumentWindows _windows;
     DocumentSaving _saving;
     AppDelegate _delegate;
+    InterfaceKeeper _interface;
     std::unique_ptr<StartWindow> _startWindow;
 };
 

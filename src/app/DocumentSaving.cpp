@@ -5,7 +5,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include "app/Sentences.h"
+#include "interchange/Formats.h"
+#include "platform/document/Sentences.h"
 
 namespace sargan {
 
@@ -29,17 +30,15 @@ QString folderToStart(const MyDocumentController& controller) {
                                      : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
-QString chooseWhereToSave(const Document& document, const QString& suggested,
-                          const MyDocumentController& controller) {
-    const QString extension = QLatin1String(document.kind().extension);
-    QFileDialog dialog(QApplication::activeWindow(), controller.desk().strings.ui("Save As"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(extension);
-    dialog.setNameFilters({u"*."_s + extension, controller.desk().strings.ui("All files") + u" (*)"_s});
-    dialog.setDirectory(document.path().isEmpty() ? folderToStart(controller)
-                                                  : QFileInfo(document.path()).absolutePath());
-    dialog.selectFile(suggested);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+SaveChoice chooseWhereToSave(const Document& document, const QString& suggested,
+                             const MyDocumentController& controller) {
+    const Strings& strings = controller.desk().strings;
+    const QStringList own{u"*."_s + QLatin1String(document.kind().extension),
+                          strings.ui("All files") + u" (*)"_s};
+    return askWhereToSave(QApplication::activeWindow(), strings.ui("Save As"),
+                          document.path().isEmpty() ? folderToStart(controller)
+                                                    : QFileInfo(document.path()).absolutePath(),
+                          suggested, document, own);
 }
 
 }  // namespace
@@ -101,7 +100,8 @@ bool DocumentSaving::isOpenElsewhere(const Document& document, const QString& pa
 bool DocumentSaving::saveAs(Document& document) {
     const QString extension = u'.' + QLatin1String(document.kind().extension);
     const QString name = document.displayName();
-    const QString path = _choosers.save(document, name.endsWith(extension) ? name : name + extension);
+    const SaveChoice choice = _choosers.save(document, name.endsWith(extension) ? name : name + extension);
+    const QString& path = choice.path;
     if (path.isEmpty()) return false;
     if (isOpenElsewhere(document, path)) {
         _controller.desk().prompt.alert(strings().text(
@@ -110,9 +110,16 @@ bool DocumentSaving::saveAs(Document& document) {
             QFileInfo(path).fileName()));
         return false;
     }
+    if (choice.format) return exportAs(document, choice);
     if (!attempt(document, [&] { document.saveAs(path); })) return false;
     _controller.noteRecentDocument(document.path());
     return true;
+}
+
+/// The document stays as it is, edited mark and all: the other format holds only a part of it.
+bool DocumentSaving::exportAs(Document& document, const SaveChoice& choice) {
+    attempt(document, [&] { document.exportTo(choice.path, QLatin1String(choice.format->typeName)); });
+    return false;
 }
 
 void DocumentSaving::revert(Document& document) {

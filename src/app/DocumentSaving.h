@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "app/MyDocumentController.h"
+#include "interchange/ui/SaveChoice.h"
 
 namespace sargan {
 
@@ -10,8 +11,8 @@ namespace sargan {
 struct FileChoosers {
     /// Files to open; empty when the person gave up.
     std::function<QStringList()> open;
-    /// Where to save a document, `suggested` first offered; empty when the person gave up.
-    std::function<QString(const Document& document, const QString& suggested)> save;
+    /// Where to save a document and as what, `suggested` first offered.
+    std::function<SaveChoice(const Document& document, const QString& suggested)> save;
 };
 
 /// The file dialogs of the desktop.
@@ -33,6 +34,7 @@ public:
 private:
     bool attempt(Document& document, const std::function<void()>& write);
     bool askAboutChangedFile(Document& document);
+    bool exportAs(Document& document, const SaveChoice& choice);
     bool isOpenElsewhere(const Document& document, const QString& path) const;
     const Strings& strings() const { return _controller.desk().strings; }
     QString cancel() const { return strings().text({"Main", "Cancel", "Cancel"}); }

@@ -2,7 +2,7 @@
 
 #include "logbook/ui/DiveEditWindow.h"
 #include "logbook/ui/LogbookWindow.h"
-#include "platform/ui/PlainWindow.h"
+#include "registers/ui/RegisterWindow.h"
 
 namespace sargan {
 
@@ -10,7 +10,7 @@ namespace {
 
 std::unique_ptr<DocumentWindow> makeWindow(Document& document) {
     if (auto* carnet = qobject_cast<Carnet*>(&document)) return std::make_unique<LogbookWindow>(*carnet);
-    if (auto* plain = dynamic_cast<PlainDocument*>(&document)) return std::make_unique<PlainWindow>(*plain);
+    if (auto* shown = dynamic_cast<Register*>(&document)) return std::make_unique<RegisterWindow>(*shown);
     return nullptr;
 }
 
@@ -45,6 +45,26 @@ void DocumentWindows::open(Document* document) {
     _windows[document] = std::move(window);
     Q_EMIT windowMade(made);
     made->bringToFront();
+}
+
+void DocumentWindows::remakeAll() {
+    for (const auto& document : _controller.documents())
+        if (windowOf(document.get())) remake(document.get());
+}
+
+void DocumentWindows::remake(Document* document) {
+    auto& window = _windows[document];
+    window->storePending();
+    window->rememberPlace();
+    const QByteArray geometry = window->saveGeometry();
+    const QJsonObject parts = window->openParts();
+    const bool isShown = window->isVisible();
+    window.reset();
+    window = makeWindow(*document);
+    Q_EMIT windowMade(window.get());
+    window->restoreGeometry(geometry);
+    if (isShown) window->show();
+    window->reopenParts(parts);
 }
 
 void DocumentWindows::remove(Document* document) {

@@ -20,6 +20,9 @@ public:
     DocumentWindow* windowOf(const Document* document) const;
     /// In the order in which the documents were opened.
     std::vector<DocumentWindow*> all() const;
+    /// A new window in place of each, where it was and with what was open in it: for another language. What was
+    /// typed is stored first.
+    void remakeAll();
 
 Q_SIGNALS:
     /// Before the window is shown for the first time.
@@ -29,6 +32,7 @@ Q_SIGNALS:
 private:
     void open(Document* document);
     void remove(Document* document);
+    void remake(Document* document);
 
     MyDocumentController& _controller;
     std::map<const Document*, std::unique_ptr<DocumentWindow>> _windows;

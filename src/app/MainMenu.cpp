@@ -6,9 +6,12 @@
 
 #include "app/DesktopSuite.h"
 #include "app/ReminderWindow.h"
+#include "interchange/ui/InterchangeActions.h"
 #include "logbook/ui/LogbookWindow.h"
 #include "platform/ui/EditMenu.h"
 #include "platform/ui/Icons.h"
+#include "registers/ui/RegisterWindow.h"
+#include "stats/ui/StatsActions.h"
 
 namespace sargan {
 
@@ -56,14 +59,25 @@ MainMenu::MainMenu(DocumentWindow& window, DesktopSuite& suite)
     makeFileMenu();
     auto* edit = new EditMenu(window);
     window.menuBar()->addMenu(edit->menu());
-    if (QMenu* kindMenu = window.makeKindMenu()) window.menuBar()->addMenu(kindMenu);
+    QMenu* kindMenu = window.makeKindMenu();
+    if (kindMenu) window.menuBar()->addMenu(kindMenu);
     window.menuBar()->addMenu(suite.delegate().calculators().makeMenu(window.menuBar()));
+    makeSettingsMenu();
     makeWindowMenu();
     makeHelpMenu();
     if (auto* logbook = qobject_cast<LogbookWindow*>(&window)) {
         logbook->shareWithEditWindow(edit->undoActions() << _save);
+        // Before what ends the menu: a line and Quit.
+        (new InterchangeActions(*logbook))->addTo(_file, _file->actions().constLast());
+        auto* stats = new StatsActions(*logbook);
+        stats->addTo(kindMenu);
+        stats->addPrintingTo(_file, _file->actions().constLast());
         connect(logbook, &LogbookWindow::renumberingWanted, this,
                 [this] { _suite.delegate().sendRenumDivesNotification(&_window); });
+    }
+    if (auto* list = qobject_cast<RegisterWindow*>(&window)) {
+        list->shareWithEditWindow(edit->undoActions() << _save);
+        connect(list, &RegisterWindow::saveWanted, this, &MainMenu::save);
     }
 }
 
@@ -78,7 +92,7 @@ QAction* MainMenu::add(QMenu* menu, const char* name, const QString& text, const
 
 void MainMenu::makeFileMenu() {
     const Strings& strings = _window.document().strings();
-    QMenu* file = _window.menuBar()->addMenu(strings.ui("&File"));
+    QMenu* file = _file = _window.menuBar()->addMenu(strings.ui("&File"));
     add(file, "newDocument", strings.ui("New"), QKeySequence::New, &MainMenu::newStandard);
     makeNewMenu(file);
     add(file, "openDocument", strings.ui("Open…"), QKeySequence::Open, &MainMenu::open);
@@ -104,6 +118,18 @@ void MainMenu::makeNewMenu(QMenu* file) {
         connect(action, &QAction::triggered, this,
                 [this, action] { _suite.controller().newDocumentMenuAction(action->objectName()); });
     }
+}
+
+void MainMenu::makeSettingsMenu() {
+    const Strings& strings = _window.document().strings();
+    QMenu* settings = _window.menuBar()->addMenu(strings.ui("&Settings"));
+    settings->setObjectName(u"settingsMenu"_s);
+    add(settings, "showPreferencePanel", strings.ui("Preferences…"), QKeySequence(u"Ctrl+,"_s),
+        &MainMenu::showPreferences);
+    settings->addSeparator();
+    QMenu* lists = settings->addMenu(strings.ui("Pick lists"));
+    lists->setObjectName(u"pickListsMenu"_s);
+    _suite.delegate().pickLists().fill(lists);
 }
 
 void MainMenu::makeWindowMenu() {
@@ -191,6 +217,10 @@ void MainMenu::revert() {
 
 void MainMenu::quit() {
     _suite.quitLater();
+}
+
+void MainMenu::showPreferences() {
+    _suite.controller().showPreferencePanel();
 }
 
 void MainMenu::about() {

@@ -24,6 +24,7 @@ private:
                  void (MainMenu::*slot)());
     void makeFileMenu();
     void makeNewMenu(QMenu* file);
+    void makeSettingsMenu();
     void makeWindowMenu();
     void makeHelpMenu();
     void fillRecentMenu();
@@ -38,10 +39,12 @@ private:
     void saveAs();
     void revert();
     void quit();
+    void showPreferences();
     void about();
 
     DocumentWindow& _window;
     DesktopSuite& _suite;
+    QMenu* _file = nullptr;
     QMenu* _recent = nullptr;
     QMenu* _windows = nullptr;
     QAction* _save = nullptr;

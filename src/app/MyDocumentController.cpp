@@ -5,6 +5,7 @@
 
 #include "app/LoadingWindow.h"
 #include "app/ReminderWindow.h"
+#include "settings/ui/PreferencesWindow.h"
 
 namespace sargan {
 
@@ -67,6 +68,12 @@ ReminderWindow& MyDocumentController::penseBeteWindow() {
                 &MyDocumentController::penseBeteClosed);
     }
     return *_penseBeteWindow;
+}
+
+PreferencesWindow& MyDocumentController::showPreferencePanel() {
+    if (!_preferences) _preferences = std::make_unique<PreferencesWindow>(desk());
+    _preferences->bringToFront();
+    return *_preferences;
 }
 
 std::vector<Document*> MyDocumentController::untouchedDocuments() const {

@@ -5,6 +5,7 @@
 namespace sargan {
 
 class LoadingWindow;
+class PreferencesWindow;
 class ReminderWindow;
 
 /// The document controller of the desktop: new documents of each kind, what opens at launch, the loading
@@ -30,6 +31,8 @@ public:
 
     /// Made when first asked for, kept from then on.
     ReminderWindow& penseBeteWindow();
+    /// The preferences, in front; made when first asked for.
+    PreferencesWindow& showPreferencePanel();
     ReminderWindow* penseBeteWindowIfMade() const { return _penseBeteWindow.get(); }
 
 Q_SIGNALS:
@@ -41,6 +44,7 @@ private:
 
     std::unique_ptr<LoadingWindow> _loadingWindow;
     std::unique_ptr<ReminderWindow> _penseBeteWindow;
+    std::unique_ptr<PreferencesWindow> _preferences;
 };
 
 }  // namespace sargan

@@ -21,20 +21,25 @@ const QString atStartKey = u"pense bete"_s;
 ReminderWindow::ReminderWindow(Desk& desk)
     : _desk(desk),
       _text(new QPlainTextEdit),
-      _atStart(new QCheckBox(desk.strings.ui("Show when the program starts"))) {
+      _atStart(new QCheckBox) {
     setObjectName(u"penseBeteWindow"_s);
-    setWindowTitle(desk.strings.ui("Reminder note"));
     resize(420, 320);
     _text->setObjectName(u"penseBeteText"_s);
-    _text->setPlaceholderText(desk.strings.ui("What you want to be reminded of"));
     _text->setPlainText(desk.defaults.text(textKey));
     _atStart->setObjectName(u"penseBeteSwitch"_s);
     _atStart->setChecked(desk.defaults.boolean(atStartKey));
+    retranslate();
     UndoGate::guard(_text);
     auto* whole = new QVBoxLayout(this);
     whole->addWidget(_text);
     whole->addWidget(_atStart);
     connect(_atStart, &QCheckBox::clicked, this, &ReminderWindow::store);
+}
+
+void ReminderWindow::retranslate() {
+    setWindowTitle(_desk.strings.ui("Reminder note"));
+    _text->setPlaceholderText(_desk.strings.ui("What you want to be reminded of"));
+    _atStart->setText(_desk.strings.ui("Show when the program starts"));
 }
 
 void ReminderWindow::bringToFront() {
@@ -60,6 +65,7 @@ void ReminderWindow::closeEvent(QCloseEvent* event) {
 
 void ReminderWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::ActivationChange && !isActiveWindow()) store();
+    if (event->type() == QEvent::LanguageChange) retranslate();
     QWidget::changeEvent(event);
 }
 

@@ -29,6 +29,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void retranslate();
+
     Desk& _desk;
     QPlainTextEdit* _text;
     QCheckBox* _atStart;

@@ -4,13 +4,14 @@
 #include "app/Desktop.h"
 #include "app/FirstPaint.h"
 #include "cli/Cli.h"
+#include "platform/print/CommandApplication.h"
 
 int main(int argc, char** argv) {
     sargan::FirstPaint::startClock();
     QStringList arguments;
     for (int i = 1; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
     if (sargan::cli::isCommand(arguments)) {
-        QCoreApplication application(argc, argv);
+        const sargan::CommandApplication application(argc, argv);
         return sargan::cli::run(QCoreApplication::arguments().mid(1));
     }
     if (!sargan::hasDisplay()) {

@@ -6,6 +6,7 @@
 #include "app/DesktopSuite.h"
 #include "logbook/ui/DiveEditWindow.h"
 #include "logbook/ui/LogbookWindow.h"
+#include "platform/ui/SourceTableView.h"
 #include "support/FormWalk.h"
 #include "support/Golden.h"
 #include "support/TestDesk.h"
@@ -14,6 +15,7 @@ int runDesktopPromptTest(int argc, char** argv);
 int runLaunchTest(int argc, char** argv);
 int runMenuTest(int argc, char** argv);
 int runSavingTest(int argc, char** argv);
+int runSettingsTest(int argc, char** argv);
 int runSingleInstanceTest(int argc, char** argv);
 
 namespace sargan {

@@ -1,4 +1,5 @@
 #include "AppTests.h"
+#include "platform/document/Sentences.h"
 
 using namespace sargan;
 using namespace Qt::StringLiterals;
@@ -143,7 +144,7 @@ private Q_SLOTS:
         try {
             desktop.controller().read(file);
         } catch (const std::exception& error) {
-            sentence = QString::fromUtf8(error.what());
+            sentence = sentenceIn(desktop.desk.strings, error);
         }
         QVERIFY(sentence.contains(u"junk.carnet"_s));
         desktop.desk.prompt.expectAlert(sentence);

@@ -170,8 +170,8 @@ private Q_SLOTS:
         openAndAdd(desktop);
         desktop.trigger(desktop.logbook(), "saveDocument");
         QVERIFY(!desktop.logbook()->isWindowModified());
-        formwalk::typeInto(desktop.logbook()->editWindowIfMade()->findChild<QWidget*>(u"siteField"_s),
-                           u"another site"_s);
+        formwalk::typeInto(desktop.logbook()->editWindowIfMade()->findChild<QWidget*>(u"gpsField"_s),
+                           u"somewhere"_s);
         desktop.desk.prompt.expectQuestion(closeQuestion(u"mine.carnet"_s), cancel);
         desktop.logbook()->close();
         QCoreApplication::processEvents();

@@ -2,6 +2,7 @@
 #include "support/GuiMain.h"
 
 int main(int argc, char** argv) {
-    return runGuiTests(
-        argc, argv, {runLaunchTest, runMenuTest, runSavingTest, runSingleInstanceTest, runDesktopPromptTest});
+    return runGuiTests(argc, argv,
+                       {runLaunchTest, runMenuTest, runSavingTest, runSettingsTest, runSingleInstanceTest,
+                        runDesktopPromptTest});
 }
