@@ -13,7 +13,11 @@ constexpr ControlSpec panelSpecs[] = {
 }  // namespace
 
 Carnet::Carnet(const DocumentKind& kind, Desk& desk, const SaveTypes& saveTypes)
-    : RecordDocument(kind, desk, plongeeClass()), _saveTypes(saveTypes), _diveForm(desk), _panel(panelSpecs) {
+    : RecordDocument(kind, desk, plongeeClass()),
+      _saveTypes(saveTypes),
+      _diveForm(desk),
+      _table(*this),
+      _panel(panelSpecs) {
     _panel.setText(panelcontrol::renumNumber, QStringLiteral("1"));
     connect(this, &Document::contentChanged, this, [this] { loadSelected(); });
     observe();
@@ -25,7 +29,10 @@ void Carnet::observe() {
             desk().notifications.observe(QString::fromLatin1(name), [receptor](const void*) { receptor(); }));
     };
     on("updateTableView", [this] { Q_EMIT tableReloadWanted(); });
-    on("updateColumnsTableView", [this] { Q_EMIT columnsChanged(); });
+    on("updateColumnsTableView", [this] {
+        _table.displayColumnsInTableView();
+        Q_EMIT columnsChanged();
+    });
     on("profile", [this] { Q_EMIT profileChanged(); });
     on("updateEditDive", [this] { _diveForm.updateUI(); });
     on("updateDeco", [this] { _diveForm.updateUI(); });
@@ -66,8 +73,7 @@ DocumentSummary Carnet::summary() const {
 qsizetype Carnet::addDive(const std::function<void()>& fill) {
     if (isReadOnly()) return -1;
     _diveForm.blankFields();
-    const int number = count() == 0 ? 1 : int(qint64(records().last()->noPlongee()) + 1);
-    form().setInteger(divecontrol::plongeeNo, number);
+    form().setInteger(divecontrol::plongeeNo, nextNumber(records()));
     if (fill) fill();
     Records<Plongee> dives = records();
     dives.append(std::make_shared<const Plongee>(_diveForm.addDiveToList()));
@@ -88,7 +94,9 @@ void Carnet::updateDive() {
 }
 
 void Carnet::storeForm() {
-    if (_formOpen) updateDive();
+    if (!_formOpen) return;
+    if (finishEditing) finishEditing();
+    updateDive();
 }
 
 bool Carnet::deleteDive() {
@@ -128,6 +136,7 @@ void Carnet::nextDive() {
 }
 
 void Carnet::moveBy(int rows) {
+    if (_formOpen && finishEditing) finishEditing();
     updateDive();
     _currentIndex = selectedRow();
     if (_currentIndex < 0) return;

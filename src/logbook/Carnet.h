@@ -3,6 +3,7 @@
 #include <map>
 
 #include "logbook/DiveForm.h"
+#include "logbook/DiveTableSource.h"
 #include "logbook/PlongeeArchive.h"
 #include "platform/document/RecordDocument.h"
 #include "platform/document/RecordEditor.h"
@@ -40,6 +41,10 @@ public:
     /// dive from the form, appends it and selects it. Answers its row, or -1 when
     /// the document was opened to look at only.
     qsizetype addDive(const std::function<void()>& fill = {});
+    /// The number of a dive that comes after these: 1, or one more than the last one's.
+    static int nextNumber(const Records<Plongee>& dives) {
+        return dives.isEmpty() ? 1 : int(qint64(dives.last()->noPlongee()) + 1);
+    }
     /// Replaces the dive at the selected row by one built from the form. When both are the same in an
     /// archive, nothing changes.
     void updateDive();
@@ -72,6 +77,11 @@ public:
     /// Dives have no field "ordi", so this search ends in the unknown-key error whenever there is a dive.
     void findInOrdinateurs() { findTextWithField(QStringLiteral("ordi")); }
 
+    TableSource* table() override { return &_table; }
+    DiveTableSource& diveTable() { return _table; }
+    /// A number that no other state of the list has.
+    quint64 listState() const { return state(); }
+
     RecordEditor* editor() override { return this; }
     Form& editForm() override { return form(); }
     qsizetype rowCount() const override { return count(); }
@@ -83,6 +93,8 @@ public:
 
     /// Whether the edit form is on screen, so that what was typed into it counts.
     void setFormOpen(bool open) { _formOpen = open; }
+    /// Called before the open form is stored: the field that is being typed into ends its editing.
+    std::function<void()> finishEditing;
 
 Q_SIGNALS:
     void scrollWanted(qsizetype row);
@@ -98,6 +110,7 @@ private:
 
     const SaveTypes& _saveTypes;
     DiveForm _diveForm;
+    DiveTableSource _table;
     Form _panel;
     qsizetype _currentIndex = -1;
     bool _formOpen = false;

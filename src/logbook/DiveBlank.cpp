@@ -106,28 +106,12 @@ constexpr BlankText blankTexts[] = {
 };
 
 constexpr BlankTag blankTags[] = {
-    {"pmBmPopUp", 0},
-    {"gpsSystemPopUp", 1},
-    {"meteoPopUp", 7},
-    {"ventSecteurPopUp", 0},
-    {"ventForcePopUp", 0},
-    {"courantPopUp", 6},
-    {"visibilitePopUp", 7},
-    {"typePlongeePopUp", 8},
-    {"inoubliablePopUp", 0},
-    {"nocturneSwitch", 0},
-    {"decoPopUp", 0},
-    {"rebreatherPopUp", 0},
-    {"gazPopUp", 0},
-    {"gaz_2PopUp", 0},
-    {"ppO2PopUp", 0},
-    {"lowSetpointPopUp", 0},
-    {"alliageBlocPopUp", 0},
-    {"alliageBloc_2PopUp", 0},
-    {"combinaisonPopUp", 0},
-    {"configurationPopUp", 1},
-    {"samplingRatePopUp", 0},
-    {"difficulteSlider", 0},
+    {"pmBmPopUp", 0},         {"gpsSystemPopUp", 1},     {"meteoPopUp", 7},       {"ventSecteurPopUp", 0},
+    {"ventForcePopUp", 0},    {"courantPopUp", 6},       {"visibilitePopUp", 7},  {"typePlongeePopUp", 8},
+    {"inoubliablePopUp", 0},  {"nocturneSwitch", 0},     {"decoPopUp", 0},        {"rebreatherPopUp", 0},
+    {"gazPopUp", 0},          {"gaz_2PopUp", 0},         {"ppO2PopUp", 0},        {"lowSetpointPopUp", 0},
+    {"alliageBlocPopUp", 0},  {"alliageBloc_2PopUp", 0}, {"combinaisonPopUp", 0}, {"configurationPopUp", 1},
+    {"samplingRatePopUp", 0}, {"difficulteSlider", 0},
 };
 
 constexpr BlankSetting blankSettings[] = {
@@ -148,23 +132,33 @@ constexpr ControlName stopDepths[] = {
 };
 
 /// A text that is there, also when it is empty.
-QString present(const QString& text) { return text.isNull() ? QStringLiteral("") : text; }
+QString present(const QString& text) {
+    return text.isNull() ? QStringLiteral("") : text;
+}
 
 }  // namespace
 
 void fillBlankDive(Form& form, const Desk& desk) {
-    for (const auto& [control, text] : blankTexts) form.setText(ControlName{control}, QString::fromLatin1(text));
+    static const std::vector<QString> texts = [] {
+        std::vector<QString> made;
+        for (const BlankText& blank : blankTexts) made.push_back(QString::fromLatin1(blank.text));
+        return made;
+    }();
+    for (std::size_t i = 0; i < texts.size(); ++i) form.setText(ControlName{blankTexts[i].control}, texts[i]);
     for (const auto& [control, tag] : blankTags) form.setTag(ControlName{control}, tag);
     for (const auto& [control, key] : blankSettings)
         form.setText(ControlName{control}, present(desk.defaults.text(QString::fromLatin1(key))));
     form.setText(ControlName{"gpsField"}, desk.strings.text({"Carnet", "GPS template"}));
-    form.setText(ControlName{"lestageField"}, shortest(desk.defaults.number(QStringLiteral("default weight"))));
+    form.setText(ControlName{"lestageField"},
+                 shortest(desk.defaults.number(QStringLiteral("default weight"))));
 
     const int interval = desk.defaults.integer(QStringLiteral("stop interval"));
     for (int stage = 1; const ControlName stop : stopDepths) form.setInteger(stop, stage++ * interval);
 
     const QDateTime now = desk.clock.now();
-    form.setDate(form[divecontrol::date], Moment::fromDateTime(QDateTime(now.date(), QTime(now.time().hour(), now.time().minute(), now.time().second()))));
+    form.setDate(form[divecontrol::date],
+                 Moment::fromDateTime(QDateTime(
+                     now.date(), QTime(now.time().hour(), now.time().minute(), now.time().second()))));
     form.setDate(form[divecontrol::heure], Moment::fromDateTime(QDateTime(QDate(2001, 1, 1), QTime(0, 0))));
 }
 

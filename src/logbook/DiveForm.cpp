@@ -1,6 +1,10 @@
 #include "logbook/DiveForm.h"
 
+#include <QScopedValueRollback>
+
 #include "logbook/DiveBlank.h"
+#include "platform/desk/PickListOffer.h"
+#include "profile/ProfileData.h"
 
 namespace sargan {
 
@@ -52,13 +56,6 @@ void copyProfile(const Plongee& from, Plongee& to) {
     to.setPRESS_Data(from.PRESS_Data());
 }
 
-NumberArray orOneSample(const NumberArray& list, bool isReal) {
-    if (!list.isEmpty()) return list;
-    static constexpr double surface[] = {0.0};
-    static constexpr qint32 noFlag[] = {0};
-    return isReal ? NumberArray::ofDoubles(surface) : NumberArray::ofInts(noFlag);
-}
-
 }  // namespace
 
 DiveForm::DiveForm(Desk& desk) : _desk(desk), _form(specsOfDiveForm()) {
@@ -73,38 +70,68 @@ DiveForm::DiveForm(Desk& desk) : _desk(desk), _form(specsOfDiveForm()) {
     // Nitrogen is what the other shares leave: shown, never stored.
     _form.setEnabled(_form[divecontrol::n2Mix], false);
     _form.setEnabled(_form[divecontrol::n2Mix2], false);
-    _form.onEndEditing = [this](int) { updateUI(); };
+    using namespace divecontrol;
+    _refreshes.resize(std::size_t(_form.count()));
+    refreshOn({depart, fin, volumeBloc, depart2, fin2, volumeBloc2}, &DiveForm::calcDeltaPressure);
+    refreshOn({o2Mix, heMix, o2Mix2, heMix2}, &DiveForm::updateNitrogen);
+    refreshOn({o2Mix, temps, profondeur}, &DiveForm::updateCns);
+    refreshOn({difficulte}, &DiveForm::updateSlider);
+    connect(&_form, &Form::changed, this, [this](int control) {
+        if (_isLoading) return;
+        for (const Refresh refresh : std::as_const(_refreshes[std::size_t(control)])) (this->*refresh)();
+    });
+    _form.onEndEditing = [this](int control) { endEditing(control); };
     blankFields();
 }
 
+void DiveForm::refreshOn(std::initializer_list<ControlName> controls, Refresh refresh) {
+    for (const ControlName name : controls) _refreshes[std::size_t(_form[name])].append(refresh);
+}
+
+void DiveForm::endEditing(int control) {
+    if (const char* list = _form.spec(control).pickList)
+        offerToPickList(_desk, QLatin1String(list), _form.text(control));
+}
+
 void DiveForm::blankFields() {
-    fillBlankDive(_form, _desk);
+    {
+        const QScopedValueRollback loading(_isLoading, true);
+        fillBlankDive(_form, _desk);
+    }
     _working = Plongee();
     profilArraysDefaultContent();
     _loaded.reset();
-    updateSlider();
+    updateUI();
     _form.setFocus(_form[divecontrol::plongeeNo]);
+    Q_EMIT diveShown();
 }
 
 void DiveForm::editFields(const RecordPointer<Plongee>& dive) {
-    const auto controls = diveControls();
-    for (int i = 0; i < _form.count(); ++i)
-        if (const auto* field = controls[std::size_t(i)].field)
-            field->visit(*dive, [&](const auto& value) { show(_form, i, value); });
-    copyProfile(*dive, _working);
+    {
+        const QScopedValueRollback loading(_isLoading, true);
+        const auto controls = diveControls();
+        for (int i = 0; i < _form.count(); ++i)
+            if (const auto* field = controls[std::size_t(i)].field)
+                field->visit(*dive, [&](const auto& value) { show(_form, i, value); });
+    }
+    setProfile(*dive);
     _loaded = dive;
-    const auto restOf = [this](ControlName o2, ControlName he) {
-        return int(qint64(100) - _form.integer(o2) - _form.integer(he));
-    };
-    _form.setInteger(divecontrol::n2Mix, restOf(divecontrol::o2Mix, divecontrol::heMix));
-    _form.setInteger(divecontrol::n2Mix2, restOf(divecontrol::o2Mix2, divecontrol::heMix2));
     updateUI();
+    Q_EMIT diveShown();
+}
+
+void DiveForm::setProfile(const Plongee& lists) {
+    copyProfile(lists, _working);
+    _deepest = profile::greatest(_working.profilProfondeur());
+    if (!_isLoading) updateCns();
 }
 
 Plongee DiveForm::addDiveToList() {
     checkPressures();
-    checkMix(divecontrol::o2Mix, divecontrol::heMix);
-    checkMix(divecontrol::o2Mix2, divecontrol::heMix2);
+    checkOxygen(divecontrol::o2Mix);
+    checkOxygen(divecontrol::o2Mix2);
+    checkHelium(divecontrol::heMix);
+    checkHelium(divecontrol::heMix2);
     Plongee dive;
     const auto controls = diveControls();
     for (int i = 0; i < _form.count(); ++i)
@@ -125,37 +152,74 @@ void DiveForm::takeInto(Plongee& dive, int control, T Plongee::*field) const {
 
 void DiveForm::updateUI() {
     updateSlider();
+    updateNitrogen();
+    calcDeltaPressure();
+    updateCns();
+}
+
+void DiveForm::calcDeltaPressure() {
+    const auto figure = [this](ControlName start, ControlName end, ControlName volume, ControlName caption) {
+        const profile::GasUsed used =
+            profile::gasUsed(_form.integer(start), _form.integer(end), _form.integer(volume));
+        _figures.volumeConsomme = used.volume;
+        _form.setText(caption, _desk.strings.text(Message<int, int>{"Carnet", "Delta pressure"}, used.delta,
+                                                  used.volume));
+        return used;
+    };
+    using namespace divecontrol;
+    _figures.tank = figure(depart, fin, volumeBloc, deltaPressure);
+    _figures.secondTank = figure(depart2, fin2, volumeBloc2, deltaPressure2);
+}
+
+void DiveForm::updateCns() {
+    const double o2 = _form.number(divecontrol::o2Mix);
+    _figures.ppO2 = profile::isPresent(_working.profilProfondeur())
+                        ? profile::ppO2AtSample(o2, _deepest)
+                        : profile::ppO2AtDepth(o2, _form.number(divecontrol::profondeur));
+    _figures.cns = profile::calculSncClock(double(_figures.ppO2), _form.number(divecontrol::temps));
+    _form.setText(divecontrol::cns, _desk.strings.text(Message<float, double>{"Carnet", "CNS", "N/A"},
+                                                       _figures.ppO2, _figures.cns));
+}
+
+void DiveForm::updateNitrogen() {
+    using namespace divecontrol;
+    const auto complete = [this](ControlName o2, ControlName he, ControlName n2) {
+        const qint64 rest = qint64(100) - _form.integer(o2) - _form.integer(he);
+        _form.setInteger(n2, int(std::clamp<qint64>(rest, INT_MIN, INT_MAX)));
+    };
+    complete(o2Mix, heMix, n2Mix);
+    complete(o2Mix2, heMix2, n2Mix2);
 }
 
 void DiveForm::profilArraysDefaultContent() {
-    _working.setProfilProfondeur(orOneSample(_working.profilProfondeur(), true));
-    _working.setASC_Flag(orOneSample(_working.ASC_Flag(), false));
-    _working.setSLOW_Flag(orOneSample(_working.SLOW_Flag(), false));
-    _working.setSURF_Flag(orOneSample(_working.SURF_Flag(), false));
-    _working.setCEIL_Flag(orOneSample(_working.CEIL_Flag(), false));
-    _working.setGAZ_Flag(orOneSample(_working.GAZ_Flag(), false));
-    _working.setPRESS_Data(orOneSample(_working.PRESS_Data(), true));
+    using profile::orSurface;
+    _working.setProfilProfondeur(orSurface(_working.profilProfondeur(), true));
+    _working.setASC_Flag(orSurface(_working.ASC_Flag(), false));
+    _working.setSLOW_Flag(orSurface(_working.SLOW_Flag(), false));
+    _working.setSURF_Flag(orSurface(_working.SURF_Flag(), false));
+    _working.setCEIL_Flag(orSurface(_working.CEIL_Flag(), false));
+    _working.setGAZ_Flag(orSurface(_working.GAZ_Flag(), false));
+    _working.setPRESS_Data(orSurface(_working.PRESS_Data(), true));
+    _deepest = profile::greatest(_working.profilProfondeur());
 }
 
 void DiveForm::razAir() {
-    setMix(21, 79, 0);
+    setMix(21, 0);
 }
 
 void DiveForm::razNitrox() {
-    const int o2 = _form.integer(divecontrol::o2Mix);
-    setMix(o2, int(qint64(100) - o2), 0);
+    setMix(_form.integer(divecontrol::o2Mix), 0);
 }
 
 void DiveForm::razHeliox() {
     const int o2 = _form.integer(divecontrol::o2Mix);
-    setMix(o2, 0, int(qint64(100) - o2));
+    setMix(o2, int(qint64(100) - o2));
 }
 
-void DiveForm::setMix(int o2, int n2, int he) {
+void DiveForm::setMix(int o2, int he) {
     _form.setFocus(_form[divecontrol::surface]);
     // What the diver typed as oxygen ("32,5") stays as typed unless the mix is another one.
     if (_form.integer(divecontrol::o2Mix) != o2) _form.setInteger(divecontrol::o2Mix, o2);
-    _form.setInteger(divecontrol::n2Mix, n2);
     _form.setInteger(divecontrol::heMix, he);
     updateUI();
 }
@@ -179,8 +243,11 @@ void DiveForm::checkPressures() {
         _desk.prompt.alert(_desk.strings.text({"Carnet", "Pressure in out"}));
 }
 
-void DiveForm::checkMix(ControlName o2, ControlName he) {
+void DiveForm::checkOxygen(ControlName o2) {
     if (_form.integer(o2) <= 0) _form.setInteger(o2, 21);
+}
+
+void DiveForm::checkHelium(ControlName he) {
     const int helium = _form.integer(he);
     if (helium >= 0 && helium < 87) return;
     _form.setInteger(he, 0);

@@ -115,7 +115,7 @@ LayoutPane decoPane() {
 }
 
 struct TankControls {
-    const char *material, *volume, *pressure, *start, *end, *gas, *o2, *n2, *he;
+    const char *material, *volume, *pressure, *start, *end, *gas, *o2, *n2, *he, *used;
 };
 
 QList<LayoutRow> tankRows(const TankControls& tank) {
@@ -123,7 +123,7 @@ QList<LayoutRow> tankRows(const TankControls& tank) {
             {{sized(tank.volume, ui("Volume"), 5, litres), sized(tank.o2, ui("O₂"), 6, percent)}},
             {{sized(tank.pressure, ui("Rated for"), 5, bar), sized(tank.n2, ui("N₂"), 6, percent)}},
             {{sized(tank.start, ui("Start"), 7, bar), sized(tank.he, ui("He"), 6, percent)}},
-            {{sized(tank.end, ui("End"), 7, bar)}}};
+            {{sized(tank.end, ui("End"), 7, bar), field(tank.used, ui("Used"))}}};
 }
 
 LayoutRow bailout(const char* number, const char* volume, const char* start, const char* end, const char* o2,
@@ -133,16 +133,17 @@ LayoutRow bailout(const char* number, const char* volume, const char* start, con
 }
 
 LayoutPane gasPane() {
-    LayoutSection main{ui("Main tank"),
-                       tankRows({"alliageBlocPopUp", "volumeBlocField", "pressionBlocField", "departField",
-                                 "finField", "gazPopUp", "o2MixField", "n2MixField", "heMixField"})};
+    LayoutSection main{ui("Main tank"), tankRows({"alliageBlocPopUp", "volumeBlocField", "pressionBlocField",
+                                                  "departField", "finField", "gazPopUp", "o2MixField",
+                                                  "n2MixField", "heMixField", "deltaPressureField"})};
+    main.rows.append({{field("cnsField", ui("Oxygen"))}});
     const LayoutSection shortcuts{none,
                                   {{{button("razAir", ui("Air")), button("razNitrox", ui("Nitrox")),
                                      button("razHeliox", ui("Heliox"))}}}};
-    const LayoutSection second{
-        ui("Second tank"),
-        tankRows({"alliageBloc_2PopUp", "volumeBloc_2Field", "pressionBloc_2Field", "depart_2Field",
-                  "fin_2Field", "gaz_2PopUp", "o2Mix_2Field", "n2Mix_2Field", "heMix_2Field"})};
+    const LayoutSection second{ui("Second tank"),
+                               tankRows({"alliageBloc_2PopUp", "volumeBloc_2Field", "pressionBloc_2Field",
+                                         "depart_2Field", "fin_2Field", "gaz_2PopUp", "o2Mix_2Field",
+                                         "n2Mix_2Field", "heMix_2Field", "deltaPressure_2Field"})};
     const LayoutSection apparatus{
         ui("Apparatus"),
         {{{field("rebreatherPopUp", ui("Apparatus")), sized("flowField", ui("Flow"), 6)}},

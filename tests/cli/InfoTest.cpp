@@ -34,15 +34,15 @@ class InfoTest : public QObject {
                 "first": null, "last": null})");
         row("documents-v1.documents", "named wrongly.carnet",
             R"({"type": "Divers documents", "class": "DiversDocs", "version": 1, "records": 2, "size": 569,
-                "first": null, "last": null})");
+                "first": "2005-04-04T03:00:03", "last": "2006-04-04T03:07:03"})");
         row("empty.carnet", "a.carnet",
-            R"({"type": "Carnet de plongee", "class": "Plongee", "version": null, "records": 0, "size": 67,
+            R"({"type": "Carnet de plongee", "class": "Plongee", "version": 27, "records": 0, "size": 67,
                 "first": null, "last": null})");
         row("empty.carnet", "a.materiel",
-            R"({"type": "Materiel", "class": "Materiel", "version": null, "records": 0, "size": 67,
+            R"({"type": "Materiel", "class": "Materiel", "version": 5, "records": 0, "size": 67,
                 "first": null, "last": null})");
         row("empty.carnet", "a.other",
-            R"({"type": "Carnet de plongee", "class": "Plongee", "version": null, "records": 0, "size": 67,
+            R"({"type": "Carnet de plongee", "class": "Plongee", "version": 27, "records": 0, "size": 67,
                 "first": null, "last": null})");
     }
 
@@ -83,7 +83,7 @@ private Q_SLOTS:
                  "from 2003-11-11T10:00:10 to 2016-06-07T14:30:00.25\n"_s);
         QCOMPARE(shop.run({u"info"_s, u"b.epaves"_s}).text(),
                  u"type:    Epaves\n"
-                 "class:   Epaves\n"
+                 "class:   Epaves, version 6\n"
                  "records: 0\n"
                  "size:    67 bytes\n"_s);
     }

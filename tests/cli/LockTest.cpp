@@ -45,6 +45,21 @@ private Q_SLOTS:
         QVERIFY(shop.folder().content(u"a.carnet"_s) != before.value(u"a.carnet"_s));
     }
 
+    void aFileThatIsOpenElsewhereIsNotReplaced() {
+        const Workshop shop;
+        shop.putLogbook(u"a.carnet"_s, {dive({{u"noPlongee"_s, 1}})});
+        shop.putLogbook(u"b.carnet"_s, {});
+        DocumentLock elsewhere(shop.folder().path(u"b.carnet"_s));
+        QVERIFY(elsewhere.tryLock());
+        shop.put(u"a.json"_s, shop.run({u"dump"_s, u"a.carnet"_s}).output);
+        const auto before = shop.everything();
+        const Outcome refused = shop.run({u"load"_s, u"a.json"_s, u"-o"_s, u"b.carnet"_s});
+        QCOMPARE(refused.status, 1);
+        QVERIFY2(isOneSentence(refused.errors) && refused.errors.contains("b.carnet"_L1),
+                 qPrintable(refused.errors));
+        QCOMPARE(shop.everything(), before);
+    }
+
     void aFileThatIsOpenElsewhereCanBeLookedAt_data() {
         addLines({u"info a.carnet"_s, u"dump a.carnet"_s, u"form a.carnet --row 0"_s,
                   u"find a.carnet --in notes x"_s});

@@ -12,23 +12,26 @@ private Q_SLOTS:
     void makesAnEmptyDocumentOfEachType_data() {
         QTest::addColumn<QString>("extension");
         QTest::addColumn<QString>("recordClass");
-        const auto row = [](const char* type, const char* extension, const char* recordClass) {
-            QTest::newRow(type) << QString::fromLatin1(extension) << QString::fromLatin1(recordClass);
+        QTest::addColumn<int>("version");
+        const auto row = [](const char* type, const char* extension, const char* recordClass, int version) {
+            QTest::newRow(type) << QString::fromLatin1(extension) << QString::fromLatin1(recordClass)
+                                << version;
         };
-        row("Carnet de plongee", "carnet", "Plongee");
-        row("Divers documents", "documents", "DiversDocs");
-        row("Materiel", "materiel", "Materiel");
-        row("Rebreather", "rebreather", "Rebreather");
-        row("Consommables", "consommables", "Consommables");
-        row("Compresseur", "compresseur", "Compresseur");
-        row("Epaves", "epaves", "Epaves");
-        row("Budget", "budget", "Budget");
-        row("Entreprises", "entreprises", "Entreprises");
-        row("Structures", "structures", "Structures");
+        row("Carnet de plongee", "carnet", "Plongee", 27);
+        row("Divers documents", "documents", "DiversDocs", 1);
+        row("Materiel", "materiel", "Materiel", 5);
+        row("Rebreather", "rebreather", "Rebreather", 4);
+        row("Consommables", "consommables", "Consommables", 3);
+        row("Compresseur", "compresseur", "Compresseur", 1);
+        row("Epaves", "epaves", "Epaves", 6);
+        row("Budget", "budget", "Budget", 1);
+        row("Entreprises", "entreprises", "Entreprises", 3);
+        row("Structures", "structures", "Structures", 0);
     }
     void makesAnEmptyDocumentOfEachType() {
         QFETCH(QString, extension);
         QFETCH(QString, recordClass);
+        QFETCH(int, version);
         const QString type = QString::fromLatin1(QTest::currentDataTag());
         const QString name = u"mine."_s + extension;
         const Workshop shop;
@@ -39,7 +42,7 @@ private Q_SLOTS:
         QCOMPARE(shop.folder().names(), QStringList(name));
         QCOMPARE(shop.folder().content(name), golden::bytes(u"empty.carnet"_s));
         const QJsonObject wanted{{u"type"_s, type}, {u"class"_s, recordClass}, {u"records"_s, 0},
-                                 {u"size"_s, 67},   {u"version"_s, {}},        {u"first"_s, {}},
+                                 {u"size"_s, 67},   {u"version"_s, version},   {u"first"_s, {}},
                                  {u"last"_s, {}}};
         QCOMPARE(shop.run({u"info"_s, name, u"--json"_s}).json(), wanted);
     }

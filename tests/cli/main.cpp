@@ -5,5 +5,5 @@ int main(int argc, char** argv) {
     return runTests(argc, argv,
                     {runUsageTest, runHelpTest, runGlobalOptionsTest, runNewTest, runInfoTest, runDumpTest,
                      runLoadTest, runFormTest, runBlankDiveTest, runEditTest, runRowsTest, runPromptTest,
-                     runSearchTest, runRefusedFileTest, runLockTest});
+                     runOfferTest, runProfileDataTest, runSearchTest, runTableCommandTest, runRefusedFileTest, runLockTest});
 }

@@ -138,6 +138,53 @@ private Q_SLOTS:
         QCOMPARE(_book->numbers(), QList<int>({1, 2, 3, 4, 5}));
     }
 
+    void decliningTheQuestionKeepsAll() {
+        _book->setNumbers({1, 2, 3});
+        const auto before = carnet().records();
+        carnet().select({0, 1});
+        expectEraseQuestion(1);
+        QVERIFY(!carnet().deleteDive());
+        QVERIFY(carnet().records() == before);
+        QCOMPARE(carnet().selection(), Selection({0, 1}));
+    }
+
+    void deletingWithoutSelectionAsksNothing() {
+        _book->setNumbers({1});
+        QVERIFY(!carnet().deleteDive());
+        QCOMPARE(carnet().count(), 1);
+    }
+
+    void theEditedMarkFollowsUndoAndRedoAcrossASave() {
+        QTemporaryDir folder;
+        carnet().addDive();
+        carnet().saveAs(folder.filePath(u"a.carnet"_s));
+        QVERIFY(!carnet().isEdited());
+        carnet().addDive();
+        QVERIFY(carnet().isEdited());
+        carnet().undo();
+        QVERIFY(!carnet().isEdited());
+        carnet().undo();
+        QVERIFY(carnet().isEdited());
+        carnet().redo();
+        QVERIFY(!carnet().isEdited());
+        carnet().redo();
+        QVERIFY(carnet().isEdited());
+        QVERIFY(!carnet().canRedo());
+    }
+
+    void aReadOnlyLogbookTakesNoChange() {
+        _book->add({{u"lieuField"_s, u"A"_s}});
+        const auto before = carnet().records();
+        carnet().setReadOnly(true);
+        carnet().select({0});
+        _book->fill(u"bateauField"_s, u"B"_s);
+        carnet().updateDive();
+        QVERIFY(!carnet().deleteDive());
+        carnet().renumDives();
+        QCOMPARE(carnet().addDive(), -1);
+        QVERIFY(carnet().records() == before);
+    }
+
     void renumberingFollowsTheList_data() {
         QTest::addColumn<QString>("start");
         QTest::addColumn<QList<int>>("numbers");

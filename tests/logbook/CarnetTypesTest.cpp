@@ -61,6 +61,12 @@ private Q_SLOTS:
         QCOMPARE(scrolled.last()[0].toInt(), 9);
     }
 
+    void onlyTheOwnTypeIsLoaded() {
+        const QByteArray bytes = golden::bytes(u"plongee-v26.carnet"_s);
+        QVERIFY(!carnet().loadDataRepresentation(bytes, u"Epaves"_s));
+        QCOMPARE(carnet().count(), 10);
+    }
+
     void loadingAnEmptyLogbookShowsNothing() {
         QSignalSpy scrolled(&carnet(), &Carnet::scrollWanted);
         QVERIFY(carnet().loadDataRepresentation(golden::bytes(u"empty.carnet"_s), u"Carnet de plongee"_s));

@@ -39,6 +39,9 @@ QMap<QString, QString> blankTexts() {
     texts.insert(u"surface"_s, u"--:--"_s);
     texts.insert(u"gps"_s, u"GPS template"_s);
     texts.insert(u"difficulte"_s, u"Very easy"_s);
+    for (const auto& tank : {u"deltaPressure"_s, u"deltaPressure_2"_s})
+        texts.insert(tank, u"Delta pressure|0|0"_s);
+    texts.insert(u"cns"_s, u"CNS|0.21|0"_s);
     return texts;
 }
 

@@ -3,110 +3,11 @@
 using namespace sargan;
 using namespace Qt::StringLiterals;
 
-/// What the dive form does beyond mapping fields: new-dive defaults, checks, gas shortcuts, difficulty.
+/// What the dive form does beyond mapping fields: checks, gas shortcuts, difficulty.
 class DiveFormTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void aNewDiveStartsWith_data() {
-        QTest::addColumn<QString>("control");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* control, const char* expected) {
-            QTest::newRow(control) << QString::fromLatin1(control) << QString::fromLatin1(expected);
-        };
-        for (const char* empty :
-             {"plongeeNoField", "lieuField",      "siteField",    "paysField",         "partenairesField",
-              "epavesField",    "structureField", "bateauField",  "profondeurField",   "tempsField",
-              "runtimeField",   "departField",    "finField",     "volumeBloc_2Field", "pressionBloc_2Field",
-              "depart_2Field",  "fin_2Field",     "equip_1Field", "equip_12Field",     "notesField"})
-            row(empty, "");
-        for (const char* dash :
-             {"coeffField", "tempEauField", "tempAirField", "deco_TTSField", "decoO2_Level_1_Field",
-              "decoO2_Level_6_Field", "timeDeco_Level_1_Field", "timeDeco_Level_6_Field", "decoSoftNameField",
-              "decoAlgoTypeField", "decoConservatismField"})
-            row(dash, "-");
-        for (const char* zero :
-             {"altitudeField", "pAtmField", "flowField", "decoHe_Level_1_Field", "decoHe_Level_6_Field",
-              "bailout_1_VolumeField", "bailout_3_HeField", "heMixField", "heMix_2Field",
-              // Without a stop interval in the settings every stop depth is 0.
-              "depthDeco_Level_1_Field", "depthDeco_Level_6_Field", "lestageField"})
-            row(zero, "0");
-        row("surfaceField", "--:--");
-        row("o2MixField", "21");
-        row("n2MixField", "79");
-        row("o2Mix_2Field", "21");
-        row("n2Mix_2Field", "79");
-    }
-    void aNewDiveStartsWith() {
-        QFETCH(QString, control);
-        TestDesk desk;
-        DiveForm form(desk.desk);
-        QTEST(form.form().text(form.form().find(control)), "expected");
-        QVERIFY(!form.form().text(form.form().find(control)).isNull());
-    }
-
-    void aNewDiveHasTheseTags_data() {
-        QTest::addColumn<int>("tag");
-        const std::pair<const char*, int> tags[] = {
-            {"pmBmPopUp", 0},          {"gpsSystemPopUp", 1},     {"meteoPopUp", 7},
-            {"ventSecteurPopUp", 0},   {"ventForcePopUp", 0},     {"courantPopUp", 6},
-            {"visibilitePopUp", 7},    {"typePlongeePopUp", 8},   {"inoubliablePopUp", 0},
-            {"nocturneSwitch", 0},     {"decoPopUp", 0},          {"rebreatherPopUp", 0},
-            {"gazPopUp", 0},           {"ppO2PopUp", 0},          {"lowSetpointPopUp", 0},
-            {"alliageBlocPopUp", 0},   {"alliageBloc_2PopUp", 0}, {"combinaisonPopUp", 0},
-            {"configurationPopUp", 1}, {"difficulteSlider", 0}};
-        for (const auto& [name, tag] : tags) QTest::newRow(name) << tag;
-    }
-    void aNewDiveHasTheseTags() {
-        TestDesk desk;
-        DiveForm form(desk.desk);
-        QTEST(form.form().tag(form.form().find(QString::fromLatin1(QTest::currentDataTag()))), "tag");
-    }
-
-    void settingsAreTheDefaultsOfANewDive() {
-        TestDesk desk;
-        const std::pair<const char*, QJsonValue> stored[] = {
-            {"country code", u"FRA"_s},     {"low GF", 30},          {"high GF", 85},
-            {"soda lime", u"Spherasorb"_s}, {"tank volume", 15},     {"tank pressure", 230},
-            {"fabricant", u"Marsouin"_s},   {"ordinateur", u"M2"_s}, {"serie", u"0815"_s},
-            {"default weight", u"6,5"_s},   {"stop interval", 3}};
-        for (const auto& [key, value] : stored) desk.defaults.store(QString::fromLatin1(key), value);
-        DiveForm form(desk.desk);
-        const std::pair<const char*, const char*> shown[] = {{"countryCodeField", "FRA"},
-                                                             {"lowGFField", "30"},
-                                                             {"highGFField", "85"},
-                                                             {"sodaTypeField", "Spherasorb"},
-                                                             {"volumeBlocField", "15"},
-                                                             {"pressionBlocField", "230"},
-                                                             {"fabricantField", "Marsouin"},
-                                                             {"ordinateurField", "M2"},
-                                                             {"serieField", "0815"},
-                                                             {"lestageField", "6.5"},
-                                                             {"depthDeco_Level_1_Field", "3"},
-                                                             {"depthDeco_Level_2_Field", "6"},
-                                                             {"depthDeco_Level_6_Field", "18"}};
-        for (const auto& [control, text] : shown)
-            QCOMPARE(form.form().text(ControlName{control}), QLatin1String(text));
-    }
-
-    void aNewDiveIsNowAndOneSampleLong() {
-        TestDesk desk;
-        DiveForm form(desk.desk);
-        QCOMPARE(form.form().date(form.form().find(u"dateField"_s)).local(),
-                 QDateTime(QDate(2016, 6, 7), QTime(14, 30)));
-        QCOMPARE(form.form().date(form.form().find(u"heureField"_s)).local(),
-                 QDateTime(QDate(2001, 1, 1), QTime(0, 0)));
-        const Plongee dive = form.addDiveToList();
-        const double surface[] = {0.0};
-        const qint32 none[] = {0};
-        QCOMPARE(dive.profilProfondeur(), NumberArray::ofDoubles(surface));
-        QCOMPARE(dive.PRESS_Data(), NumberArray::ofDoubles(surface));
-        for (const NumberArray* flags :
-             {&dive.ASC_Flag(), &dive.SLOW_Flag(), &dive.SURF_Flag(), &dive.CEIL_Flag(), &dive.GAZ_Flag()})
-            QCOMPARE(*flags, NumberArray::ofInts(none));
-        QCOMPARE(form.form().focus(), form.form().find(u"plongeeNoField"_s));
-    }
-
     void pressuresAreToldOnceAndKept_data() {
         QTest::addColumn<int>("in");
         QTest::addColumn<int>("out");

@@ -143,6 +143,26 @@ private Q_SLOTS:
         QCOMPARE(QString::fromLatin1(found.field->name), field);
     }
 
+    void controlsAnswerToTheirFieldsName() {
+        TestDesk desk;
+        DiveForm form(desk.desk);
+        const auto controls = diveControls();
+        for (std::size_t i = 0; i < controls.size(); ++i) {
+            QCOMPARE(form.form().find(QString::fromLatin1(controls[i].spec.name)), int(i));
+            if (controls[i].field)
+                QCOMPARE(form.form().find(QString::fromLatin1(controls[i].field->name)), int(i));
+        }
+        QVERIFY_THROWS_EXCEPTION(UnknownControlError, form.form().find(u"computerMode"_s));
+    }
+
+    void everyMenuNumbersItsItemsFromZero() {
+        for (const DiveControl& control : diveControls()) {
+            QCOMPARE(control.spec.menu.empty(), control.spec.kind != ControlKind::PopUp);
+            for (std::size_t i = 0; i < control.spec.menu.size(); ++i)
+                QCOMPARE(control.spec.menu[i].tag, int(i));
+        }
+    }
+
     void anyBitsComeOutOfTheFormAsTheyWentIn() {
         RandomDive random(20160607);
         for (int round = 0; round < 200; ++round) {
@@ -181,18 +201,29 @@ private Q_SLOTS:
         QCOMPARE(_book.text(u"n2Mix_2Field"_s), u"50"_s);
     }
 
-    void whatIsNoNumberIsStoredAsZero() {
-        form().blankFields();
-        for (const auto& [control, value] : {std::pair{u"tempsField"_s, u"-"_s},
-                                             {u"profondeurField"_s, u""_s},
-                                             {u"tempEauField"_s, u"cold"_s},
-                                             {u"coeffField"_s, u"-"_s}})
-            _book.fill(control, value);
-        const Plongee dive = form().addDiveToList();
-        QCOMPARE(dive.temps(), 0);
-        QCOMPARE(dive.profondeur(), 0.0F);
-        QCOMPARE(dive.tempEau(), 0);
-        QCOMPARE(dive.coeff(), 0);
+    void numbersTakeCommaOrPoint_data() {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<float>("stored");
+        QTest::newRow("comma") << u"18,5"_s << 18.5F;
+        QTest::newRow("point") << u"18.5"_s << 18.5F;
+        QTest::newRow("unit behind") << u"18.5 m"_s << 18.5F;
+        QTest::newRow("dash") << u"-"_s << 0.0F;
+        QTest::newRow("empty") << u""_s << 0.0F;
+        QTest::newRow("word") << u"deep"_s << 0.0F;
+        QTest::newRow("negative") << u"-2,25"_s << -2.25F;
+    }
+    void numbersTakeCommaOrPoint() {
+        QFETCH(QString, typed);
+        TestDesk desk;
+        DiveForm form(desk.desk);
+        form.form().setText(divecontrol::profondeur, typed);
+        form.form().setText(ControlName{"depthDeco_Level_3_Field"}, typed);
+        form.form().setText(divecontrol::temps, typed);
+        const Plongee dive = form.addDiveToList();
+        QTEST(dive.profondeur(), "stored");
+        QTEST(dive.decoDepth_Level_3(), "stored");
+        QFETCH(float, stored);
+        QCOMPARE(dive.temps(), int(stored));
     }
 
     void nitroxKeepsTheOxygenAsTyped() {

@@ -20,8 +20,12 @@ struct Logbook {
             for (const auto& [control, value] : values) fill(control, value);
         });
     }
+    /// As Tab would leave the control; every word is in its pick list already, so that nothing is asked.
     void fill(const QString& control, const QString& value) {
-        carnet->form().fill(carnet->form().find(control), value);
+        sargan::Form& form = carnet->form();
+        const int place = form.find(control);
+        if (const char* list = form.spec(place).pickList) desk.pickLists.append(QLatin1String(list), value);
+        form.fill(place, value);
     }
     QString text(const QString& control) const { return carnet->form().text(carnet->form().find(control)); }
     int tag(const QString& control) const { return carnet->form().tag(carnet->form().find(control)); }

@@ -10,11 +10,14 @@ int runCarnetSearchTest(int argc, char** argv);
 int runCarnetSelectionTest(int argc, char** argv);
 int runCarnetTypesTest(int argc, char** argv);
 int runDiveBlankTest(int argc, char** argv);
+int runDiveCellTest(int argc, char** argv);
+int runDiveFiguresTest(int argc, char** argv);
 int runDiveFormTest(int argc, char** argv);
 int runDiveMappingTest(int argc, char** argv);
-int runFormRecordTest(int argc, char** argv);
-int runLogbookListTest(int argc, char** argv);
-int runLogbookSearchTest(int argc, char** argv);
+int runDiveMenusTest(int argc, char** argv);
+int runDiveOfferTest(int argc, char** argv);
+int runDiveProfileFormTest(int argc, char** argv);
+int runDiveTableSourceTest(int argc, char** argv);
 
 namespace sargan {
 
@@ -32,12 +35,6 @@ inline void fillLogbook(Carnet& carnet, const QList<Plongee>& dives) {
     Records<Plongee> records;
     for (const Plongee& dive : dives) records.append(std::make_shared<const Plongee>(dive));
     carnet.readBytes(writeRecords(records, plongeeClass()), QStringLiteral("Carnet de plongee"));
-}
-
-inline QList<int> numbersIn(const Carnet& carnet) {
-    QList<int> numbers;
-    for (const auto& dive : carnet.records()) numbers << dive->noPlongee();
-    return numbers;
 }
 
 }  // namespace sargan

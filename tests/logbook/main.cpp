@@ -3,7 +3,8 @@
 
 int main(int argc, char** argv) {
     return runTests(argc, argv,
-                    {runDiveFormTest, runFormRecordTest, runLogbookListTest, runLogbookSearchTest,
-                     runDiveMappingTest, runDiveBlankTest, runCarnetListTest, runCarnetSelectionTest,
-                     runCarnetSearchTest, runCarnetTypesTest});
+                    {runDiveBlankTest, runDiveMappingTest, runDiveMenusTest, runDiveFormTest,
+                     runDiveFiguresTest, runDiveOfferTest, runDiveProfileFormTest, runDiveCellTest,
+                     runDiveTableSourceTest, runCarnetListTest,
+                     runCarnetSelectionTest, runCarnetSearchTest, runCarnetTypesTest});
 }

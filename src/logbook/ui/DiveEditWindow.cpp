@@ -1,14 +1,17 @@
 #include "logbook/ui/DiveEditWindow.h"
 
+#include <QAbstractButton>
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QToolBar>
 
 #include "logbook/DiveLayout.h"
 #include "platform/ui/FormView.h"
 #include "platform/ui/Icons.h"
+#include "platform/ui/Mnemonics.h"
 
 namespace sargan {
 
@@ -18,66 +21,84 @@ namespace {
 
 const QString placeKey = u"window editWindow"_s;
 
+const char* firstControl(const LayoutPane& pane) {
+    return pane.sections.first().rows.first().items.first().control;
+}
+
+const char* lastControl(const LayoutPane& pane) {
+    const char* last = nullptr;
+    for (const LayoutSection& section : pane.sections)
+        for (const LayoutRow& row : section.rows)
+            for (const LayoutItem& item : row.items)
+                if (item.control) last = item.control;
+    return last;
+}
+
 }  // namespace
 
-DiveEditWindow::DiveEditWindow(Carnet& carnet, QAction* previous, QAction* next,
-                               const QList<QAction*>& shared)
+DiveEditWindow::DiveEditWindow(Carnet& carnet, const QList<QAction*>& tools, const QList<QAction*>& shared)
     : _carnet(carnet), _view(new FormView(carnet.form(), diveLayout(), carnet.desk())) {
     setAttribute(Qt::WA_QuitOnClose, false);
     setContextMenuPolicy(Qt::NoContextMenu);
     setCentralWidget(_view);
-    makeToolbar(previous, next);
+    for (QScrollArea* pane : _view->findChildren<QScrollArea*>()) allotMnemonics(pane);
+    makeToolbar(tools);
     addActions(shared);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
     connect(&carnet, &Document::selectionChanged, this, &DiveEditWindow::showDive);
+    connect(&carnet, &Document::contentChanged, this, &DiveEditWindow::showDive);
     connect(&carnet, &Document::fileChanged, this, &DiveEditWindow::showReadOnly);
-    const QJsonObject place = carnet.desk().defaults.value(placeKey).toObject();
-    const QSize size =
-        place.isEmpty() ? QSize(860, 560) : QSize(place[u"width"_s].toInt(), place[u"height"_s].toInt());
-    resize(size.expandedTo(QSize(320, 240)).boundedTo(screen()->availableSize() - QSize(20, 40)));
-    showDive();
+    carnet.finishEditing = [this] { _view->finishEditing(); };
+    restoreSize();
     showReadOnly();
 }
 
-DiveEditWindow::~DiveEditWindow() = default;
+DiveEditWindow::~DiveEditWindow() {
+    _carnet.finishEditing = {};
+}
 
-QAction* DiveEditWindow::button(QToolBar* bar, const char* name, const char* icon, const QString& text,
-                                const QString& tip) {
-    QAction* action = bar->addAction(iconNamed(icon), QString(text).replace(u'&', u"&&"_s));
+void DiveEditWindow::restoreSize() {
+    const QJsonObject place = _carnet.desk().defaults.value(placeKey).toObject();
+    const QSize size =
+        place.isEmpty() ? QSize(960, 560) : QSize(place[u"width"_s].toInt(), place[u"height"_s].toInt());
+    resize(size.expandedTo(QSize(320, 240)).boundedTo(screen()->availableSize() - QSize(20, 40)));
+}
+
+QAction* DiveEditWindow::button(const char* name, const char* icon, const QString& text, const QString& tip) {
+    QAction* action = _bar->addAction(iconNamed(icon), QString(text).replace(u'&', u"&&"_s));
     action->setObjectName(QLatin1String(name));
     action->setToolTip(tip);
     return action;
 }
 
-void DiveEditWindow::makeToolbar(QAction* previous, QAction* next) {
+void DiveEditWindow::makeToolbar(const QList<QAction*>& tools) {
     const Strings& strings = _carnet.strings();
-    QToolBar* bar = addToolBar(strings.ui("Toolbar"));
-    bar->setObjectName(u"editWindowToolbar"_s);
-    bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    makePaneButtons(bar);
-    bar->addSeparator();
-    bar->addAction(previous);
-    bar->addAction(next);
-    bar->addSeparator();
-    _blank = button(bar, "blankFields", "raz", strings.text({"Main", "Erase"}),
-                    strings.text({"Carnet", "Tip erase"}));
-    _store = button(bar, "addDiveToList", "enregistrer", strings.ui("Store"),
+    _bar = addToolBar(strings.ui("Toolbar"));
+    _bar->setObjectName(u"editWindowToolbar"_s);
+    _bar->setMovable(false);
+    _bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    makePaneButtons();
+    _bar->addSeparator();
+    for (QAction* tool : tools) tool ? _bar->addAction(tool) : void(_bar->addSeparator());
+    _bar->addSeparator();
+    _blank =
+        button("blankFields", "raz", strings.text({"Main", "Erase"}), strings.text({"Carnet", "Tip erase"}));
+    _store = button("addDiveToList", "enregistrer", strings.ui("Store"),
                     strings.ui("Store the form in the logbook"));
     _store->setShortcut(QKeySequence(u"Ctrl+Return"_s));
     connect(_blank, &QAction::triggered, this, &DiveEditWindow::blank);
-    connect(_store, &QAction::triggered, this, [this] { _carnet.updateDive(); });
+    connect(_store, &QAction::triggered, this, &DiveEditWindow::store);
 }
 
-void DiveEditWindow::makePaneButtons(QToolBar* bar) {
+void DiveEditWindow::makePaneButtons() {
     _panes = new QActionGroup(this);
     const QList<LayoutPane>& panes = diveLayout().panes;
     for (int i = 0; i < int(panes.size()); ++i) {
         const QString label = _carnet.strings().text(panes[i].label);
         const QByteArray name = "goView_" + QByteArray::number(i + 1);
         const QKeySequence key(u"Ctrl+%1"_s.arg(i + 1));
-        QAction* pane = button(bar, name, panes[i].icon, label,
+        QAction* pane = button(name, panes[i].icon, label,
                                label + u" ("_s + key.toString(QKeySequence::NativeText) + u')');
         pane->setCheckable(true);
         pane->setShortcut(key);
@@ -87,6 +108,19 @@ void DiveEditWindow::makePaneButtons(QToolBar* bar) {
     connect(_view, &FormView::paneChanged, this,
             [this](int pane) { _panes->actions().at(pane)->setChecked(true); });
     _panes->actions().first()->setChecked(true);
+}
+
+/// In a narrow window the words under the pictures go, rather than the last buttons.
+void DiveEditWindow::fitToolbar() {
+    if (_bar->toolButtonStyle() == Qt::ToolButtonTextUnderIcon) _barWidth = _bar->sizeHint().width();
+    _bar->setToolButtonStyle(width() < _barWidth ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextUnderIcon);
+}
+
+bool DiveEditWindow::event(QEvent* event) {
+    const bool handled = QMainWindow::event(event);
+    const bool isFit = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
+    if (_bar && isFit) fitToolbar();
+    return handled;
 }
 
 void DiveEditWindow::openOn(int pane) {
@@ -101,6 +135,43 @@ void DiveEditWindow::openOn(int pane) {
 
 int DiveEditWindow::paneShown() const {
     return _view->currentPane();
+}
+
+/// Return goes on like Tab, and presses a button.
+void DiveEditWindow::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || (event->modifiers() & ~Qt::KeypadModifier)) return QMainWindow::keyPressEvent(event);
+    auto* pressed = qobject_cast<QAbstractButton*>(focusWidget());
+    if (pressed && !pressed->isCheckable())
+        pressed->click();
+    else
+        focusNextPrevChild(true);
+}
+
+/// Tab goes through all six panes, so that a dive can be written down without the mouse.
+bool DiveEditWindow::focusNextPrevChild(bool next) {
+    const QList<LayoutPane>& panes = diveLayout().panes;
+    const int shown = _view->currentPane();
+    const char* edge = next ? lastControl(panes[shown]) : firstControl(panes[shown]);
+    const QWidget* focused = focusWidget();
+    if (!focused || focused->objectName() != QLatin1String(edge))
+        return QMainWindow::focusNextPrevChild(next);
+    const int count = int(panes.size());
+    const int wanted = (shown + (next ? 1 : count - 1)) % count;
+    _view->showPane(wanted);
+    return focusControl(next ? firstControl(panes[wanted]) : lastControl(panes[wanted]));
+}
+
+bool DiveEditWindow::focusControl(const char* control) {
+    auto* widget = _view->findChild<QWidget*>(QLatin1String(control));
+    if (!widget || !widget->isEnabled()) return false;
+    widget->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+void DiveEditWindow::store() {
+    _view->finishEditing();
+    _carnet.updateDive();
 }
 
 void DiveEditWindow::blank() {
@@ -127,7 +198,7 @@ void DiveEditWindow::showReadOnly() {
 }
 
 void DiveEditWindow::closeEvent(QCloseEvent* event) {
-    _carnet.updateDive();
+    store();
     _carnet.setFormOpen(false);
     _carnet.desk().defaults.store(placeKey, QJsonObject{{u"width"_s, width()}, {u"height"_s, height()}});
     event->accept();

@@ -16,8 +16,9 @@ class DiveEditWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// `previous` and `next` are the logbook window's; `shared` its actions whose keys work here too.
-    DiveEditWindow(Carnet& carnet, QAction* previous, QAction* next, const QList<QAction*>& shared);
+    /// `tools` are the logbook window's actions for this window's toolbar (a null one separates); `shared`
+    /// those whose keys only work here too.
+    DiveEditWindow(Carnet& carnet, const QList<QAction*>& tools, const QList<QAction*>& shared);
     ~DiveEditWindow() override;
 
     /// In front, with the keyboard, on this pane.
@@ -27,18 +28,26 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
-    void makeToolbar(QAction* previous, QAction* next);
-    void makePaneButtons(QToolBar* bar);
-    QAction* button(QToolBar* bar, const char* name, const char* icon, const QString& text,
-                    const QString& tip);
+    void makeToolbar(const QList<QAction*>& tools);
+    void makePaneButtons();
+    QAction* button(const char* name, const char* icon, const QString& text, const QString& tip);
+    void restoreSize();
+    void fitToolbar();
+    bool focusControl(const char* control);
+    void store();
     void blank();
     void showDive();
     void showReadOnly();
 
     Carnet& _carnet;
     FormView* _view;
+    QToolBar* _bar = nullptr;
+    int _barWidth = 0;  ///< that the toolbar needs with words under its pictures
     QActionGroup* _panes = nullptr;
     QAction* _store = nullptr;
     QAction* _blank = nullptr;

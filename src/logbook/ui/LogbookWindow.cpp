@@ -1,33 +1,26 @@
 #include "logbook/ui/LogbookWindow.h"
 
-#include <QHeaderView>
-#include <QItemSelectionModel>
-#include <QJsonArray>
 #include <QLabel>
 #include <QMenu>
-#include <QScopedValueRollback>
 #include <QStatusBar>
-#include <QTableView>
 #include <QToolBar>
 
-#include "logbook/DiveColumns.h"
 #include "logbook/ui/DiveEditWindow.h"
-#include "logbook/ui/DiveTable.h"
+#include "logbook/ui/DiveProfileWindow.h"
+#include "logbook/ui/ProfileGraph.h"
 #include "logbook/ui/RenumberSheet.h"
 #include "logbook/ui/SearchBar.h"
 #include "platform/ui/Icons.h"
-#include "platform/ui/PlainWindow.h"
+#include "platform/ui/SourceTableView.h"
 
 namespace sargan {
 
 using namespace Qt::StringLiterals;
 
 LogbookWindow::LogbookWindow(Carnet& carnet)
-    : DocumentWindow(carnet, u"Carnet"_s),
-      _carnet(carnet),
-      _model(new DiveTable(carnet, this)),
-      _table(new QTableView),
-      _status(new QLabel) {
+    : DocumentWindow(carnet, u"Carnet"_s), _carnet(carnet), _status(new QLabel) {
+    carnet.diveTable().displayColumnsInTableView();
+    _table = new SourceTableView(carnet, u"Carnet"_s);
     makeActions();
     makeTable();
     makeToolbar();
@@ -35,8 +28,7 @@ LogbookWindow::LogbookWindow(Carnet& carnet)
     statusBar()->addWidget(_status);
     observe();
     showSelection();
-    if (carnet.selection().isEmpty() && carnet.count() > 0)
-        _table->scrollTo(_model->index(int(carnet.count()) - 1, 0));
+    if (carnet.selection().isEmpty()) _table->scrollToRow(carnet.count() - 1);
     _table->setFocus();
 }
 
@@ -64,6 +56,10 @@ void LogbookWindow::makeActions() {
     _next =
         action("nextDive", "next", words.ui("Next"), words.ui("Next dive"), {QKeySequence(u"Ctrl+PgDown"_s)});
     _renumber = action("renumDives", nullptr, words.ui("Renumber…"), words.ui("Renumber dives"), {});
+    _profil = action("profil", "ProfilPl", words.text({"Carnet", "Profile"}),
+                     words.text({"Carnet", "Tip profile"}), {QKeySequence(u"Ctrl+Shift+P"_s)});
+    _profilData = action("profilData", "profilData", words.text({"Carnet", "Profile datas"}),
+                         words.text({"Carnet", "Tip profile datas"}), {QKeySequence(u"Ctrl+Shift+D"_s)});
     // Plain keys belong to the table: elsewhere they mean something to the field that has the keyboard.
     _delete->setShortcutContext(Qt::WidgetShortcut);
     _editDive->setShortcutContext(Qt::WidgetShortcut);
@@ -72,20 +68,17 @@ void LogbookWindow::makeActions() {
     connect(_editDive, &QAction::triggered, this, &LogbookWindow::editWindow);
     connect(_previous, &QAction::triggered, this, [this] { _carnet.prevDive(); });
     connect(_next, &QAction::triggered, this, [this] { _carnet.nextDive(); });
+    connect(_profil, &QAction::triggered, this, &LogbookWindow::profileGraph);
+    connect(_profilData, &QAction::triggered, this, &LogbookWindow::profilInfo);
     connect(_renumber, &QAction::triggered, this, &LogbookWindow::renumberingWanted);
 }
 
 void LogbookWindow::makeTable() {
     _table->setObjectName(u"plongeesTableView"_s);
-    setUpTable(_table);
-    _table->setModel(_model);
-    _table->horizontalHeader()->setSectionsClickable(false);
     _table->addActions({_editDive, _add, _delete});
     _table->setContextMenuPolicy(Qt::ActionsContextMenu);
-    restoreColumns();
     connect(_table, &QTableView::doubleClicked, this, &LogbookWindow::editWindow);
-    connect(_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &LogbookWindow::tableSelectionChanged);
+    connect(_table, &SourceTableView::rowsChosen, this, &LogbookWindow::rowsChosen);
 }
 
 void LogbookWindow::makeToolbar() {
@@ -93,7 +86,7 @@ void LogbookWindow::makeToolbar() {
     bar->setObjectName(u"tableViewToolbar"_s);
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    bar->addActions({_add, _delete});
+    bar->addActions({_add, _delete, _profil, _profilData});
     _search = new SearchBar(_carnet);
     _search->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(_search);
@@ -102,11 +95,10 @@ void LogbookWindow::makeToolbar() {
 void LogbookWindow::observe() {
     connect(&_carnet, &Document::contentChanged, this, &LogbookWindow::contentChanged);
     connect(&_carnet, &Document::selectionChanged, this, &LogbookWindow::showSelection);
-    connect(&_carnet, &Carnet::tableReloadWanted, _model, &DiveTable::reload);
+    connect(&_carnet, &Carnet::tableReloadWanted, _table, &SourceTableView::reload);
+    connect(&_carnet, &Carnet::columnsChanged, _table, &SourceTableView::reloadColumns);
     connect(&_carnet, &Carnet::renumSheetWanted, this, &LogbookWindow::openRenumberSheet);
-    connect(&_carnet, &Carnet::scrollWanted, this, [this](qsizetype row) {
-        if (row >= 0) _table->scrollTo(_model->index(int(row), 0));
-    });
+    connect(&_carnet, &Carnet::scrollWanted, _table, &SourceTableView::scrollToRow);
 }
 
 QMenu* LogbookWindow::makeKindMenu() {
@@ -115,25 +107,13 @@ QMenu* LogbookWindow::makeKindMenu() {
     menu->addSeparator();
     menu->addActions({_previous, _next});
     menu->addSeparator();
+    menu->addActions({_profil, _profilData});
     menu->addAction(_renumber);
     return menu;
 }
 
-void LogbookWindow::restoreColumns() {
-    const QJsonArray widths = rememberedPlace()[u"columns"_s].toArray();
-    const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    const auto columns = diveColumns();
-    for (int i = 0; i < int(columns.size()); ++i) {
-        const int usual = columns[std::size_t(i)].characters * digit + 14;
-        const bool remembered = widths.size() == qsizetype(columns.size());
-        _table->setColumnWidth(i, remembered ? std::clamp(widths[i].toInt(), 20, 2000) : usual);
-    }
-}
-
-void LogbookWindow::addToPlace(QJsonObject& place) const {
-    QJsonArray widths;
-    for (int i = 0; i < _model->columnCount(); ++i) widths.append(_table->columnWidth(i));
-    place[u"columns"_s] = widths;
+void LogbookWindow::addToPlace(QJsonObject&) const {
+    _table->rememberColumns();
 }
 
 void LogbookWindow::addDive() {
@@ -152,8 +132,40 @@ void LogbookWindow::deleteDive() {
 
 void LogbookWindow::editWindow() {
     if (_carnet.selectedRow() < 0) return;
-    if (!_edit) _edit = std::make_unique<DiveEditWindow>(_carnet, _previous, _next, _shared);
+    if (!_edit) _edit = std::make_unique<DiveEditWindow>(_carnet, QList{_previous, _next, _profil, _profilData}, _shared);
     _edit->openOn(_edit->paneShown());
+}
+
+void LogbookWindow::profileGraph() {
+    if (_carnet.selectedRow() < 0) return;
+    if (!_graph) {
+        _graph = makeProfileGraph(_carnet);
+        _graph->addTools({_previous, _next});
+    }
+    _graph->open();
+}
+
+void LogbookWindow::profilInfo() {
+    if (_carnet.selectedRow() < 0) return;
+    _carnet.storeForm();
+    if (!_profileData) _profileData = std::make_unique<DiveProfileWindow>(_carnet);
+    _profileData->profilInfo();
+}
+
+QJsonObject LogbookWindow::openParts() const {
+    QJsonObject parts;
+    if (_edit && _edit->isVisible()) parts.insert(u"edit"_s, _edit->paneShown());
+    if (_graph && _graph->isVisible()) parts.insert(u"profile"_s, true);
+    if (_profileData && _profileData->isVisible()) parts.insert(u"profileData"_s, true);
+    return parts;
+}
+
+void LogbookWindow::reopenParts(const QJsonObject& parts) {
+    if (parts.contains(u"profile"_s)) profileGraph();
+    if (parts.contains(u"profileData"_s)) profilInfo();
+    if (!parts.contains(u"edit"_s)) return;
+    editWindow();
+    if (_edit) _edit->openOn(parts[u"edit"_s].toInt());
 }
 
 bool LogbookWindow::mayHavePending() const {
@@ -165,7 +177,7 @@ void LogbookWindow::selectEverything() {
 }
 
 QString LogbookWindow::copiedText() const {
-    return selectedText(*_table);
+    return _table->selectedText();
 }
 
 void LogbookWindow::startFind() {
@@ -177,49 +189,18 @@ void LogbookWindow::readOnlyChanged(bool) {
     showStatus();
 }
 
-Selection LogbookWindow::tableSelection() const {
-    Selection rows;
-    const QItemSelection ranges = _table->selectionModel()->selection();
-    for (const QItemSelectionRange& range : ranges)
-        for (int row = range.top(); row <= range.bottom(); ++row) rows.append(row);
-    return cleanSelection(std::move(rows), _carnet.count());
-}
-
-void LogbookWindow::tableSelectionChanged() {
-    if (_following) return;
-    {
-        const QScopedValueRollback following(_following, true);
-        _carnet.changementSelection(tableSelection());
-    }
+void LogbookWindow::rowsChosen(const Selection& rows) {
+    _carnet.changementSelection(rows);
     showSelection();
 }
 
 void LogbookWindow::showSelection() {
     validate();
     showStatus();
-    if (_following || tableSelection() == _carnet.selection()) return;
-    const QScopedValueRollback following(_following, true);
-    QItemSelection ranges;
-    const Selection& rows = _carnet.selection();
-    for (qsizetype first = 0; first < rows.size();) {
-        qsizetype last = first;
-        while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1) ++last;
-        ranges.append(QItemSelectionRange(_model->index(int(rows[first]), 0),
-                                          _model->index(int(rows[last]), _model->columnCount() - 1)));
-        first = last + 1;
-    }
-    _table->selectionModel()->select(ranges, QItemSelectionModel::ClearAndSelect);
-    if (rows.isEmpty()) return;
-    const QModelIndex first = _model->index(int(rows.first()), 0);
-    _table->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
-    _table->scrollTo(first);
+    _table->showRows(_carnet.selection());
 }
 
 void LogbookWindow::contentChanged() {
-    {
-        const QScopedValueRollback following(_following, true);
-        _model->follow();
-    }
     validate();
     showStatus();
 }
@@ -230,20 +211,19 @@ void LogbookWindow::validate() {
     _add->setEnabled(writable);
     _delete->setEnabled(writable && row >= 0);
     _editDive->setEnabled(row >= 0);
+    _profil->setEnabled(row >= 0);
+    _profilData->setEnabled(row >= 0);
     _previous->setEnabled(row > 0);
     _next->setEnabled(row >= 0 && row + 1 < _carnet.count());
     _renumber->setEnabled(writable && _carnet.count() > 0);
 }
 
 void LogbookWindow::showStatus() {
-    const auto counted = [this](qsizetype count, const QString& one, const Message<int>& many) {
-        return count == 1 ? one : strings().text(many, int(count));
-    };
-    QString text =
-        counted(_carnet.count(), strings().ui("1 dive"), Message<int>{"Interface", "%d dives", "%d dives"});
-    if (const qsizetype selected = _carnet.selection().size(); selected > 0)
-        text += u" · "_s + counted(selected, strings().ui("1 selected"),
-                                   Message<int>{"Interface", "%d selected", "%d selected"});
+    QString text = _carnet.diveTable().tableCount();
+    const int selected = int(_carnet.selection().size());
+    if (selected == 1) text += u" · "_s + strings().ui("1 selected");
+    if (selected > 1)
+        text += u" · "_s + strings().text(Message<int>{"Interface", "%d selected", "%d selected"}, selected);
     _status->setText(text);
 }
 

@@ -6,9 +6,11 @@
 namespace sargan {
 
 class DiveEditWindow;
-class DiveTable;
+class DiveProfileWindow;
+class GraphProfileWindow;
 class RenumberSheet;
 class SearchBar;
+class SourceTableView;
 
 /// The window of a logbook: its dives in a table, the toolbar, the search.
 class LogbookWindow : public DocumentWindow {
@@ -19,7 +21,7 @@ public:
     ~LogbookWindow() override;
 
     Carnet& carnet() const { return _carnet; }
-    QTableView& table() const { return *_table; }
+    SourceTableView& table() const { return *_table; }
     /// Null until it was opened once.
     DiveEditWindow* editWindowIfMade() const { return _edit.get(); }
     /// Actions of this window whose keys are to work in the edit window as well.
@@ -27,6 +29,8 @@ public:
 
     void storePending() override { _carnet.storeForm(); }
     bool mayHavePending() const override;
+    QJsonObject openParts() const override;
+    void reopenParts(const QJsonObject& parts) override;
     QMenu* makeKindMenu() override;
     void selectEverything() override;
     QString copiedText() const override;
@@ -37,6 +41,13 @@ public:
     void deleteDive();
     /// The edit window on the first selected dive.
     void editWindow();
+    /// The graph of that dive's profile.
+    void profileGraph();
+    /// The profile of that dive as texts.
+    void profilInfo();
+    /// Null until it was opened once.
+    DiveProfileWindow* profileWindowIfMade() const { return _profileData.get(); }
+    GraphProfileWindow* profileGraphIfMade() const { return _graph.get(); }
 
 Q_SIGNALS:
     /// The person wants to renumber: every open logbook is to offer it.
@@ -53,9 +64,7 @@ private:
     void makeTable();
     void makeToolbar();
     void observe();
-    void restoreColumns();
-    void tableSelectionChanged();
-    Selection tableSelection() const;
+    void rowsChosen(const Selection& rows);
     void showSelection();
     void contentChanged();
     void validate();
@@ -63,8 +72,7 @@ private:
     void openRenumberSheet();
 
     Carnet& _carnet;
-    DiveTable* _model;
-    QTableView* _table;
+    SourceTableView* _table;
     SearchBar* _search = nullptr;
     QLabel* _status;
     QAction* _add = nullptr;
@@ -73,10 +81,13 @@ private:
     QAction* _previous = nullptr;
     QAction* _next = nullptr;
     QAction* _renumber = nullptr;
+    QAction* _profil = nullptr;
+    QAction* _profilData = nullptr;
     RenumberSheet* _sheet = nullptr;
     std::unique_ptr<DiveEditWindow> _edit;
+    std::unique_ptr<DiveProfileWindow> _profileData;
+    std::unique_ptr<GraphProfileWindow> _graph;
     QList<QAction*> _shared;
-    bool _following = false;  ///< the table's selection changes because the document's did
 };
 
 }  // namespace sargan

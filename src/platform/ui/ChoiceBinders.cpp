@@ -1,9 +1,12 @@
 #include "platform/ui/ChoiceBinders.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QGridLayout>
 #include <QPainter>
+#include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QToolButton>
@@ -54,6 +57,46 @@ void PopUpBinder::show(const ControlState& state) {
     _combo->setCurrentIndex(_combo->findData(state.tag));
 }
 
+RadioBinder::RadioBinder(Form& form, int control, const Strings& strings, QWidget* parent)
+    : ControlBinder(form, control), _box(new QWidget(parent)), _buttons(new QButtonGroup(_box)) {
+    constexpr int mostInRow = 3;
+    auto* grid = new QGridLayout(_box);
+    grid->setContentsMargins(0, 0, 0, 0);
+    const std::span<const MenuItem> menu = form.spec(control).menu;
+    for (int place = 0; place < int(menu.size()); ++place) {
+        const MenuItem& item = menu[std::size_t(place)];
+        auto* button = new QRadioButton(strings.text(item.words), _box);
+        button->setObjectName(
+            QStringLiteral("%1_%2").arg(QLatin1String(form.spec(control).name)).arg(item.tag));
+        _buttons->addButton(button, place);
+        grid->addWidget(button, place / mostInRow, place % mostInRow);
+    }
+    connect(_buttons, &QButtonGroup::idClicked, this, [this](int place) {
+        this->form().setTag(this->control(), this->form().spec(this->control()).menu[std::size_t(place)].tag);
+        endEditing();
+    });
+    _box->setFocusPolicy(Qt::ClickFocus);
+    if (!menu.empty()) _box->setFocusProxy(_buttons->button(0));
+}
+
+QWidget* RadioBinder::widget() const {
+    return _box;
+}
+
+void RadioBinder::takeFocus() {
+    QAbstractButton* chosen = _buttons->checkedButton();
+    (chosen ? chosen : _buttons->button(0))->setFocus(Qt::OtherFocusReason);
+}
+
+void RadioBinder::show(const ControlState& state) {
+    const std::span<const MenuItem> menu = form().spec(control()).menu;
+    // An exclusive group keeps one button down, whatever it is told.
+    _buttons->setExclusive(false);
+    for (int place = 0; place < int(menu.size()); ++place)
+        _buttons->button(place)->setChecked(menu[std::size_t(place)].tag == state.tag);
+    _buttons->setExclusive(true);
+}
+
 SwitchBinder::SwitchBinder(Form& form, int control, QWidget* parent)
     : ControlBinder(form, control), _box(new QCheckBox(parent)) {
     connect(_box, &QCheckBox::clicked, this, [this](bool on) {
@@ -75,7 +118,9 @@ SliderBinder::SliderBinder(Form& form, int control, QWidget* parent)
     const ControlSpec& spec = form.spec(control);
     _slider->setRange(spec.minimum, spec.maximum);
     _slider->setPageStep(1);
-    _slider->setTickInterval(1);
+    // A mark for every value where that can be told apart, else eight.
+    const int values = spec.maximum - spec.minimum;
+    _slider->setTickInterval(values <= 20 ? 1 : values / 8);
     _slider->setTickPosition(QSlider::TicksBelow);
     _slider->setFocusPolicy(Qt::StrongFocus);
     _slider->installEventFilter(this);

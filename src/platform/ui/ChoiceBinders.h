@@ -2,6 +2,7 @@
 
 #include "platform/ui/ControlBinder.h"
 
+class QButtonGroup;
 class QCheckBox;
 class QComboBox;
 class QSlider;
@@ -21,6 +22,22 @@ protected:
 
 private:
     QComboBox* _combo;
+};
+
+/// One of a menu's items, all of them in view as radio buttons; the same rules as a pop-up's. The first
+/// button stands for the whole where the keyboard comes to the control; arrows go on from there.
+class RadioBinder : public ControlBinder {
+public:
+    RadioBinder(Form& form, int control, const Strings& strings, QWidget* parent);
+    QWidget* widget() const override;
+    void takeFocus() override;
+
+protected:
+    void show(const ControlState& state) override;
+
+private:
+    QWidget* _box;
+    QButtonGroup* _buttons;  ///< by place in the menu; a tag may be any number
 };
 
 class SwitchBinder : public ControlBinder {

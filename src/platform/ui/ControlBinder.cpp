@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 
 #include "platform/ui/ChoiceBinders.h"
+#include "platform/ui/GaugeBinder.h"
 #include "platform/ui/ImageBinder.h"
 #include "platform/ui/MomentBinders.h"
 #include "platform/ui/TextBinders.h"
@@ -19,6 +20,13 @@ void ControlBinder::refresh() {
         for (QWidget* companion : std::as_const(_companions)) companion->setHidden(state.hidden);
     }
     for (QWidget* companion : std::as_const(_companions)) companion->setEnabled(state.enabled);
+}
+
+void ControlBinder::addCompanion(QWidget* companion) {
+    _companions.append(companion);
+    // The control itself was hidden before it had company.
+    if (_form.state(_control).hidden) companion->hide();
+    companion->setEnabled(_form.state(_control).enabled);
 }
 
 void ControlBinder::setLocked(bool locked) {
@@ -38,14 +46,19 @@ void ControlBinder::endEditing() {
     // A question that the form asks takes the focus away and would end the editing once more.
     if (_ending) return;
     _ending = true;
+    _touched = false;
     _form.endEditing(_control);
     _ending = false;
+}
+
+void ControlBinder::finishEditing() {
+    if (_touched) endEditing();
 }
 
 bool ControlBinder::eventFilter(QObject*, QEvent* event) {
     if (event->type() != QEvent::FocusOut) return false;
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) endEditing();
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) finishEditing();
     return false;
 }
 
@@ -77,6 +90,8 @@ std::unique_ptr<ControlBinder> binderFor(Form& form, int control, const Desk& de
         case ControlKind::Time:
             return std::make_unique<TimeBinder>(form, control, parent);
         case ControlKind::PopUp:
+            if (form.spec(control).spread)
+                return std::make_unique<RadioBinder>(form, control, desk.strings, parent);
             return std::make_unique<PopUpBinder>(form, control, desk.strings, parent);
         case ControlKind::Switch:
             return std::make_unique<SwitchBinder>(form, control, parent);
@@ -88,6 +103,8 @@ std::unique_ptr<ControlBinder> binderFor(Form& form, int control, const Desk& de
             return std::make_unique<ImageBinder>(form, control, desk.strings, choosers, parent);
         case ControlKind::Color:
             return std::make_unique<ColorBinder>(form, control, choosers, parent);
+        case ControlKind::Gauge:
+            return std::make_unique<GaugeBinder>(form, control, parent);
     }
     throw std::logic_error("a control of no kind");
 }

@@ -31,17 +31,21 @@ public:
     /// Nothing can be changed, whatever the form says.
     void setLocked(bool locked);
     /// A widget that is shown and hidden together with the control's: its label, its unit.
-    void addCompanion(QWidget* companion) { _companions.append(companion); }
+    void addCompanion(QWidget* companion);
     /// Whether more width is of use.
     virtual bool grows() const { return false; }
     virtual void setCharacters(int) {}
     virtual void takeFocus();
+    /// Ends the editing now if the person has typed since it last ended: what was merely visited is not told.
+    void finishEditing();
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     virtual void show(const ControlState& state) = 0;
     virtual void applyLock(bool locked, bool enabled);
     Form& form() const { return _form; }
+    /// The person has typed into the control.
+    void touch() { _touched = true; }
     /// The person has left the control.
     void endEditing();
     /// Ends the editing when the keyboard leaves this field for another one.
@@ -54,6 +58,7 @@ private:
     int _control;
     bool _locked = false;
     bool _ending = false;
+    bool _touched = false;  ///< typed into since the editing last ended
     QColor _shownColor;
     QList<QWidget*> _companions;
 };

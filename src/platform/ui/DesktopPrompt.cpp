@@ -15,7 +15,8 @@ class ProgressPanel : public Progress {
 public:
     ProgressPanel(const QString& what, const QString& cancel)
         : _dialog(what, cancel, 0, progressSteps, QApplication::activeWindow()) {
-        _dialog.setWindowModality(Qt::WindowModal);
+        // While it works nobody may change or close what it works on, in whichever window.
+        _dialog.setWindowModality(Qt::ApplicationModal);
         _dialog.setMinimumDuration(300);
     }
 
@@ -35,7 +36,15 @@ void DesktopPrompt::beep() {
 }
 
 void DesktopPrompt::alert(const QString& text) {
-    QMessageBox box(QMessageBox::Warning, QApplication::applicationDisplayName(), text, QMessageBox::NoButton,
+    show(QMessageBox::Warning, text);
+}
+
+void DesktopPrompt::inform(const QString& text) {
+    show(QMessageBox::Information, text);
+}
+
+void DesktopPrompt::show(int icon, const QString& text) {
+    QMessageBox box(QMessageBox::Icon(icon), QApplication::applicationDisplayName(), text, QMessageBox::NoButton,
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.addButton(_strings.text({"Main", "OK", "OK"}), QMessageBox::AcceptRole);

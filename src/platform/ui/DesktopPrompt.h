@@ -12,10 +12,12 @@ public:
 
     void beep() override;
     void alert(const QString& text) override;
+    void inform(const QString& text) override;
     int ask(const QString& text, const QStringList& buttons) override;
     std::unique_ptr<Progress> startProgress(const QString& what) override;
 
 private:
+    void show(int icon, const QString& text);
     const Strings& _strings;
 };
 

@@ -34,6 +34,10 @@ public:
     virtual bool canFind() const { return false; }
     virtual void startFind() {}
 
+    /// The windows that belong to this one and are open, so that a window made in its stead opens them again.
+    virtual QJsonObject openParts() const { return {}; }
+    virtual void reopenParts(const QJsonObject&) {}
+
     /// Raises the window and gives it the keyboard.
     void bringToFront();
     /// Stores place, size and what the subclass adds: once, when the window goes.

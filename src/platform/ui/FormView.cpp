@@ -8,6 +8,7 @@
 
 #include "platform/document/DocumentError.h"
 #include "platform/files/SafeFile.h"
+#include "platform/form/PictureBytes.h"
 #include "platform/ui/PaneBuilder.h"
 
 namespace sargan {
@@ -21,10 +22,12 @@ FormChoosers desktopChoosers(const Desk& desk) {
     choosers.image = [&desk](QWidget* parent) -> QByteArray {
         const QString path = QFileDialog::getOpenFileName(
             parent, desk.strings.ui("Choose a picture…"), {},
-            desk.strings.ui("Pictures") + QStringLiteral(" (*.png *.jpg *.jpeg *.tif *.tiff *.gif *.bmp)"));
+            desk.strings.ui("Pictures") + QStringLiteral(" (*.png *.jpg *.jpeg *.tif *.tiff *.gif *.bmp *.pdf)"));
         if (path.isEmpty()) return {};
         try {
-            return readFile(path);
+            const QByteArray picture = pictureBytesOf(readFile(path));
+            if (picture.isNull()) desk.prompt.alert(desk.strings.ui("This file is no picture."));
+            return picture;
         } catch (const std::exception& error) {
             desk.prompt.alert(sentenceOf(error));
             return {};
@@ -102,6 +105,11 @@ void FormView::takeFocus() {
         if (binder.widget()->focusPolicy() == Qt::NoFocus || !isOnCurrentPane(binder.widget())) continue;
         return binder.takeFocus();
     }
+}
+
+void FormView::finishEditing() {
+    for (const auto& binder : _binders)
+        if (binder) binder->finishEditing();
 }
 
 void FormView::showEvent(QShowEvent* event) {

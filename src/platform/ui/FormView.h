@@ -26,6 +26,8 @@ public:
     /// The keyboard to the control that the form last asked for, when it stands on the current pane, else to
     /// the pane's first control.
     void takeFocus();
+    /// Ends the editing of what is being typed into, as leaving it would.
+    void finishEditing();
 
     FormChoosers choosers;
 

@@ -7,8 +7,10 @@ namespace sargan {
 MomentBinder::MomentBinder(Form& form, int control, MomentField::Part part, QWidget* parent)
     : ControlBinder(form, control), _field(new MomentField(part, parent)) {
     UndoGate::guard(_field);
-    connect(_field, &MomentField::momentEdited, this,
-            [this](const Moment& moment) { this->form().setDate(this->control(), moment); });
+    connect(_field, &MomentField::momentEdited, this, [this](const Moment& moment) {
+        touch();
+        this->form().setDate(this->control(), moment);
+    });
     connect(_field, &QLineEdit::returnPressed, this, [this] { endEditing(); });
     watchLeaving(_field);
 }

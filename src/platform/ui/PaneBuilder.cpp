@@ -3,10 +3,10 @@
 #include <QAbstractButton>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
+
+#include "platform/ui/PaneScroller.h"
 
 namespace sargan {
 
@@ -49,10 +49,7 @@ QWidget* PaneBuilder::build(const LayoutPane& pane) {
         filled = filled || _hasArea;
     }
     if (column && !filled) column->addStretch(1);
-    auto* scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(content);
+    auto* scroll = new PaneScroller(content, columns);
     scroll->setObjectName(QLatin1String(pane.id));
     return scroll;
 }
@@ -99,8 +96,8 @@ void PaneBuilder::row(QWidget* parent, QGridLayout* grid, int at, const LayoutRo
 }
 
 QWidget* PaneBuilder::cell(QWidget* parent, const LayoutItem& item, QWidget* label) {
-    if (item.action) return button(parent, item);
     if (item.control) return controlCell(parent, item, label);
+    if (item.action) return button(parent, item.action, item.label);
     QLabel* heading = plainLabel(words(item.label), parent);
     QPalette faint = heading->palette();
     faint.setColor(QPalette::WindowText, faint.color(QPalette::PlaceholderText));
@@ -126,14 +123,19 @@ QWidget* PaneBuilder::controlCell(QWidget* parent, const LayoutItem& item, QWidg
         line->addWidget(unit);
         binder->addCompanion(unit);
     }
+    if (item.action) {
+        QWidget* behind = button(holder, item.action, item.button);
+        line->addWidget(behind);
+        binder->addCompanion(behind);
+    }
     if (!stretches) line->addStretch(1);
-    if (qobject_cast<QPlainTextEdit*>(widget)) _hasArea = true;
+    _hasArea = _hasArea || widget->sizePolicy().verticalPolicy() == QSizePolicy::Expanding;
     return holder;
 }
 
-QWidget* PaneBuilder::button(QWidget* parent, const LayoutItem& item) {
-    auto* made = new QPushButton(words(item.label), parent);
-    const QString action = QLatin1String(item.action);
+QWidget* PaneBuilder::button(QWidget* parent, const char* name, const Message<>& label) {
+    auto* made = new QPushButton(words(label), parent);
+    const QString action = QLatin1String(name);
     made->setObjectName(action);
     made->setAutoDefault(false);
     QObject::connect(made, &QPushButton::clicked, made, [press = _press, action] { press(action); });

@@ -29,7 +29,7 @@ private:
     void row(QWidget* parent, QGridLayout* grid, int at, const LayoutRow& row, int cells);
     QWidget* cell(QWidget* parent, const LayoutItem& item, QWidget* label);
     QWidget* controlCell(QWidget* parent, const LayoutItem& item, QWidget* label);
-    QWidget* button(QWidget* parent, const LayoutItem& item);
+    QWidget* button(QWidget* parent, const char* name, const Message<>& label);
     QString words(const Message<>& message) const { return message.key ? _strings.text(message) : QString(); }
 
     const Strings& _strings;

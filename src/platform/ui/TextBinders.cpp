@@ -30,8 +30,10 @@ LineBinder::LineBinder(Form& form, int control, QWidget* parent)
     : ControlBinder(form, control), _edit(new QLineEdit(parent)) {
     _edit->setMinimumWidth(widthOf(_edit, 4));
     UndoGate::guard(_edit);
-    connect(_edit, &QLineEdit::textEdited, this,
-            [this](const QString& text) { this->form().setText(this->control(), present(text)); });
+    connect(_edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+        touch();
+        this->form().setText(this->control(), present(text));
+    });
     connect(_edit, &QLineEdit::returnPressed, this, [this] { endEditing(); });
     watchLeaving(_edit);
 }
@@ -69,8 +71,10 @@ AreaBinder::AreaBinder(Form& form, int control, QWidget* parent)
     _edit->setMinimumHeight(_edit->fontMetrics().lineSpacing() * 4);
     UndoGate::guard(_edit);
     watchLeaving(_edit);
-    connect(_edit, &QPlainTextEdit::textChanged, this,
-            [this] { this->form().setText(this->control(), present(_edit->toPlainText())); });
+    connect(_edit, &QPlainTextEdit::textChanged, this, [this] {
+        touch();
+        this->form().setText(this->control(), present(_edit->toPlainText()));
+    });
 }
 
 QWidget* AreaBinder::widget() const {
@@ -170,6 +174,7 @@ void ComboBinder::offerChoices() {
 }
 
 void ComboBinder::take(const QString& text) {
+    touch();
     form().setText(control(), present(text));
 }
 

@@ -28,7 +28,7 @@ private Q_SLOTS:
         QCOMPARE(dive.temps(), 47);
         QVERIFY(logbook.window->isWindowModified());
         const auto* model = logbook.window->table().model();
-        QCOMPARE(model->index(0, 3).data().toString(), u"Porquerolles"_s);
+        QCOMPARE(model->index(0, 2).data().toString(), u"Porquerolles"_s);
         QCOMPARE(model->index(0, 5).data().toString(), u"32.5 m"_s);
     }
 

@@ -1,6 +1,9 @@
 #include "LogbookUiTests.h"
 #include "logbook/DiveColumns.h"
 #include "platform/record/Field.h"
+#include "platform/ui/SourceTableView.h"
+#include "profile/ui/GraphProfileWindow.h"
+#include "profile/ui/ProfilView.h"
 
 using namespace sargan;
 using namespace Qt::StringLiterals;
@@ -14,6 +17,30 @@ class LogbookTableTest : public QObject {
         for (int column = 0; column < model->columnCount(); ++column)
             cells << model->index(at, column).data().toString();
         return cells;
+    }
+
+    static QStringList shownNumbers(const LogbookOnScreen& logbook) {
+        QStringList numbers;
+        for (int at = 0; at < logbook.window->table().model()->rowCount(); ++at)
+            numbers << row(logbook, at).first();
+        return numbers;
+    }
+
+    static void clickHeader(const LogbookOnScreen& logbook, const QString& column) {
+        const SourceTableView& table = logbook.window->table();
+        QHeaderView* header = table.horizontalHeader();
+        const int section = table.list().columnNamed(column);
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                          QPoint(header->sectionViewportPosition(section) + 10, 8));
+    }
+
+    /// "lieu up": the column with the mark in its header.
+    static QString sortMark(const LogbookOnScreen& logbook) {
+        const SourceTableView& table = logbook.window->table();
+        const int section = table.horizontalHeader()->sortIndicatorSection();
+        if (section < 0) return u"none"_s;
+        const bool isUp = table.horizontalHeader()->sortIndicatorOrder() == Qt::AscendingOrder;
+        return table.list().columns()[section].identifier + (isUp ? u" up"_s : u" down"_s);
     }
 
     static void search(const LogbookOnScreen& logbook, const char* place, const QString& text) {
@@ -41,8 +68,8 @@ private Q_SLOTS:
             for (const auto& [name, value] : values) form.fill(form.find(name), value);
         });
         QCOMPARE(row(logbook, 0),
-                 (QStringList{u"1"_s, u"03/02/2016"_s, u"09:15"_s, u"Brest"_s, u"Le Vioben"_s, u"23.5 m"_s,
-                              u"41 '"_s, u"13 °C"_s, u"Computer"_s, u"Good"_s, u"La Swansea"_s, u"Luc"_s}));
+                 (QStringList{u"1"_s, u"03/02/2016"_s, u"Brest"_s, u"Le Vioben"_s, u"09:15"_s, u"23.5 m"_s,
+                              u"41 '"_s, u"13 °C"_s, u"Computer"_s, u"N/A"_s, u"Good"_s, u""_s}));
     }
 
     void aTemperatureThatWasNotRecordedIsADash() {
@@ -143,12 +170,102 @@ private Q_SLOTS:
         QCOMPARE(shownNumbers(), (QList<int>{1, 2, 3, 4, 5, 6}));
     }
 
-    void aClickOnAHeaderDoesNothingYet() {
+    void clicksOnAHeaderSort() {
         LogbookOnScreen logbook(3);
-        auto* header = logbook.window->table().horizontalHeader();
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionPosition(3) + 10, 8));
-        QVERIFY(logbook.shownSelection().isEmpty());
+        clickHeader(logbook, u"profondeur"_s);
+        QCOMPARE(logbook.numbers(), (QList<int>{3, 2, 1}));
+        QCOMPARE(shownNumbers(logbook), (QStringList{u"3"_s, u"2"_s, u"1"_s}));
+        QCOMPARE(sortMark(logbook), u"profondeur down"_s);
+        clickHeader(logbook, u"profondeur"_s);
         QCOMPARE(logbook.numbers(), (QList<int>{1, 2, 3}));
+        QCOMPARE(sortMark(logbook), u"profondeur up"_s);
+        clickHeader(logbook, u"lieu"_s);
+        QCOMPARE(logbook.numbers(), (QList<int>{3, 2, 1}));
+        QCOMPARE(sortMark(logbook), u"lieu down"_s);
+        clickHeader(logbook, u"profondeur"_s);
+        QCOMPARE(logbook.numbers(), (QList<int>{1, 2, 3}));
+        QVERIFY(logbook.shownSelection().isEmpty());
+    }
+
+    void undoTakesTheSortingBackAndTheMarkWithIt() {
+        LogbookOnScreen logbook(3);
+        QCOMPARE(sortMark(logbook), u"none"_s);
+        clickHeader(logbook, u"noPlongee"_s);
+        QCOMPARE(sortMark(logbook), u"noPlongee down"_s);
+        logbook.carnet->undo();
+        QCOMPARE(shownNumbers(logbook), (QStringList{u"1"_s, u"2"_s, u"3"_s}));
+        QCOMPARE(sortMark(logbook), u"none"_s);
+    }
+
+    void theSelectedDiveStaysSelectedWhenTheListIsSorted() {
+        LogbookOnScreen logbook(4);
+        logbook.clickRow(0);
+        clickHeader(logbook, u"noPlongee"_s);
+        QCOMPARE(logbook.shownSelection(), Selection{3});
+        QCOMPARE(logbook.carnet->form().text(divecontrol::plongeeNo), u"1"_s);
+    }
+
+    void columnsFollowTheSettings() {
+        LogbookOnScreen logbook(2);
+        logbook.clickRow(1);
+        logbook.desk.defaults.store(u"column gaz"_s, 1);
+        logbook.desk.defaults.store(u"column date"_s, 0);
+        logbook.desk.notifications.post(u"updateColumnsTableView"_s, nullptr);
+        QStringList wanted = logbook.carnet->diveTable().shownColumns();
+        QCOMPARE(logbook.window->table().columnOrder(), wanted);
+        QVERIFY(wanted.contains(u"gaz"_s) && !wanted.contains(u"date"_s));
+        QCOMPARE(logbook.shownSelection(), Selection{1});
+        logbook.desk.defaults.store(u"column date"_s, 1);
+        logbook.desk.notifications.post(u"updateColumnsTableView"_s, nullptr);
+        QCOMPARE(logbook.window->table().columnOrder().indexOf(u"date"_s), 1);
+    }
+
+    void cellsFollowTheSettings() {
+        LogbookOnScreen logbook(1);
+        const QModelIndex cell = logbook.window->table().model()->index(0, 5);
+        QCOMPARE(cell.data().toString(), u"11 m"_s);
+        logbook.desk.defaults.store(u"us units"_s, 1);
+        logbook.desk.notifications.post(u"updateTableView"_s, nullptr);
+        QCOMPARE(cell.data().toString(), u"11 ft"_s);
+        QCOMPARE(cell.data(Qt::ForegroundRole).value<QColor>(), QColor(0, 0, 255));
+    }
+
+    void theOrderOfColumnsIsRemembered() {
+        LogbookOnScreen logbook(1);
+        logbook.window->table().horizontalHeader()->moveSection(5, 0);
+        const QStringList order = logbook.window->table().columnOrder();
+        QCOMPARE(order.first(), u"profondeur"_s);
+        logbook.window->rememberPlace();
+        LogbookWindow again(*logbook.carnet);
+        QCOMPARE(again.table().columnOrder(), order);
+        QCOMPARE(again.table().columnWidth(5), logbook.window->table().columnWidth(5));
+    }
+
+    void theWindowShowsTheProfileOfTheSelectedDive() {
+        LogbookOnScreen logbook(2);
+        QVERIFY(!logbook.action("profil")->isEnabled());
+        logbook.clickRow(0);
+        logbook.pressHere("profil");
+        GraphProfileWindow* graph = logbook.window->profileGraphIfMade();
+        QVERIFY(graph && graph->isVisible());
+        QCOMPARE(graph->windowTitle(), u"Dive 1 – Untitled"_s);
+        QCOMPARE(graph->view().profil().profilData.size(), 1);
+        logbook.action("nextDive")->trigger();
+        QTRY_COMPARE(graph->windowTitle(), u"Dive 2 – Untitled"_s);
+        // What is typed into the form shows at once.
+        logbook.carnet->form().setText(divecontrol::o2Mix, u"32"_s);
+        QTRY_COMPARE(graph->view().profil().fracO2, 32.0F);
+        logbook.desk.defaults.store(u"ppO2 line"_s, 1);
+        logbook.desk.notifications.post(u"profile"_s, nullptr);
+        QTRY_VERIFY(graph->view().profil().style.ppO2Line);
+    }
+
+    void theEditWindowOpensTheProfileToo() {
+        LogbookOnScreen logbook(1);
+        logbook.clickRow(0);
+        logbook.openEdit();
+        logbook.pressInEdit("profil");
+        QVERIFY(logbook.window->profileGraphIfMade()->isVisible());
     }
 
     void columnWidthsAreRemembered() {

@@ -6,11 +6,14 @@
 #include "logbook/ui/DiveEditWindow.h"
 #include "logbook/ui/LogbookWindow.h"
 #include "platform/ui/EditMenu.h"
+#include "platform/ui/SourceTableView.h"
 #include "support/FormWalk.h"
 #include "support/TestDesk.h"
 
 int runDiveEditWindowTest(int argc, char** argv);
 int runDiveLayoutTest(int argc, char** argv);
+int runDiveProfileWindowTest(int argc, char** argv);
+int runDiveTypingTest(int argc, char** argv);
 int runLogbookEditingTest(int argc, char** argv);
 int runLogbookTableTest(int argc, char** argv);
 

@@ -2,6 +2,7 @@
 #include "support/GuiMain.h"
 
 int main(int argc, char** argv) {
-    return runGuiTests(
-        argc, argv, {runDiveLayoutTest, runDiveEditWindowTest, runLogbookEditingTest, runLogbookTableTest});
+    return runGuiTests(argc, argv,
+                       {runDiveLayoutTest, runDiveEditWindowTest, runDiveProfileWindowTest, runDiveTypingTest,
+                        runLogbookEditingTest, runLogbookTableTest});
 }

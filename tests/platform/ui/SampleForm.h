@@ -28,6 +28,7 @@ inline constexpr ControlSpec sampleSpecs[] = {
     {.name = "levelField", .kind = ControlKind::Caption},
     {.name = "photoView", .kind = ControlKind::Image},
     {.name = "inkWell", .kind = ControlKind::Color},
+    {.name = "kindMatrix", .kind = ControlKind::PopUp, .menu = sampleMenu, .spread = true},
 };
 
 /// The sample form in a window on one pane, with a second pane for one more field.

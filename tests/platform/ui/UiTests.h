@@ -3,4 +3,5 @@
 int runFormViewTest(int argc, char** argv);
 int runFormViewWalkTest(int argc, char** argv);
 int runMomentFieldTest(int argc, char** argv);
-int runPlainWindowTest(int argc, char** argv);
+int runDocumentWindowTest(int argc, char** argv);
+int runSourceTableTest(int argc, char** argv);

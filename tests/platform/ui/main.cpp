@@ -2,6 +2,7 @@
 #include "support/GuiMain.h"
 
 int main(int argc, char** argv) {
-    return runGuiTests(argc, argv,
-                       {runFormViewTest, runFormViewWalkTest, runMomentFieldTest, runPlainWindowTest});
+    return runGuiTests(
+        argc, argv,
+        {runFormViewTest, runFormViewWalkTest, runMomentFieldTest, runDocumentWindowTest, runSourceTableTest});
 }

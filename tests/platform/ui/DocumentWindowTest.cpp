@@ -3,14 +3,15 @@
 
 #include "UiTests.h"
 #include "platform/ui/EditMenu.h"
-#include "platform/ui/PlainWindow.h"
+#include "registers/ui/RegisterWindow.h"
 #include "support/Golden.h"
 #include "support/TestDesk.h"
 
 using namespace sargan;
 using namespace Qt::StringLiterals;
 
-class PlainWindowTest : public QObject {
+/// What every document's window does, tried on a register's.
+class DocumentWindowTest : public QObject {
     Q_OBJECT
 
     static std::unique_ptr<Document> open(DocumentController& controller, const QString& file) {
@@ -18,33 +19,12 @@ class PlainWindowTest : public QObject {
     }
 
 private Q_SLOTS:
-    void theRecordsAreShownAsNumberedColumns() {
+    void aNewOneIsNamedAndNotEdited() {
         TestDesk desk;
-        DocumentController controller(desk.kinds, desk.desk);
-        const auto document = open(controller, u"epaves-v6.epaves"_s);
-        auto& plain = dynamic_cast<PlainDocument&>(*document);
-        PlainWindow window(plain);
-        const auto* table = window.findChild<QTableView*>(u"recordsTableView"_s);
-        QVERIFY(table);
-        QVERIFY(plain.count() > 0);
-        QCOMPARE(table->model()->rowCount(), int(plain.count()));
-        QCOMPARE(table->model()->headerData(0, Qt::Horizontal).toString(), u"1"_s);
-        QCOMPARE(table->model()->columnCount(), int(plain.values(0).size()));
-        for (int row = 0; row < int(plain.count()); ++row)
-            for (int column = 0; column < table->model()->columnCount(); ++column)
-                QCOMPARE(table->model()->index(row, column).data().toString(),
-                         plain.values(row).value(column));
-    }
-
-    void aNewOneIsEmpty() {
-        TestDesk desk;
-        DocumentController controller(desk.kinds, desk.desk);
         const DocumentKind& kind = *desk.kinds.named(u"Budget"_s, desk.desk);
-        const auto document = PlainDocument::create(kind, desk.desk);
+        const auto document = kind.create(kind, desk.desk);
         document->setUntitledName(u"Untitled"_s);
-        PlainWindow window(dynamic_cast<PlainDocument&>(*document));
-        const auto* table = window.findChild<QTableView*>(u"recordsTableView"_s);
-        QCOMPARE(table->model()->rowCount(), 0);
+        RegisterWindow window(dynamic_cast<Register&>(*document));
         QCOMPARE(window.windowTitle(), u"Untitled[*]"_s);
         QVERIFY(!window.isWindowModified());
     }
@@ -53,7 +33,7 @@ private Q_SLOTS:
         TestDesk desk;
         DocumentController controller(desk.kinds, desk.desk);
         const auto document = open(controller, u"budget-v1.budget"_s);
-        PlainWindow window(dynamic_cast<PlainDocument&>(*document));
+        RegisterWindow window(dynamic_cast<Register&>(*document));
         window.show();
         const auto* note = window.findChild<QLabel*>(u"readOnlyNote"_s);
         QVERIFY(!note->isVisible());
@@ -66,32 +46,21 @@ private Q_SLOTS:
         DocumentController controller(desk.kinds, desk.desk);
         const auto document = open(controller, u"budget-v1.budget"_s);
         {
-            PlainWindow window(dynamic_cast<PlainDocument&>(*document));
+            RegisterWindow window(dynamic_cast<Register&>(*document));
             window.show();
             window.resize(555, 444);
             QVERIFY(!desk.defaults.contains(u"window PreviBudget"_s));
             window.rememberPlace();
         }
-        PlainWindow again(dynamic_cast<PlainDocument&>(*document));
+        RegisterWindow again(dynamic_cast<Register&>(*document));
         QCOMPARE(again.size(), QSize(555, 444));
-    }
-
-    void selectedRowsCanBeCopied() {
-        TestDesk desk;
-        DocumentController controller(desk.kinds, desk.desk);
-        const auto document = open(controller, u"epaves-v6.epaves"_s);
-        auto& plain = dynamic_cast<PlainDocument&>(*document);
-        PlainWindow window(plain);
-        window.selectEverything();
-        QCOMPARE(window.copiedText().split(u'\n').first(), plain.values(0).join(u'\t'));
-        QCOMPARE(window.copiedText().count(u'\n'), plain.count() - 1);
     }
 
     void droppedFilesAreHandedOn() {
         TestDesk desk;
         DocumentController controller(desk.kinds, desk.desk);
         const auto document = open(controller, u"budget-v1.budget"_s);
-        PlainWindow window(dynamic_cast<PlainDocument&>(*document));
+        RegisterWindow window(dynamic_cast<Register&>(*document));
         window.show();
         QSignalSpy dropped(&window, &DocumentWindow::filesDropped);
         QMimeData data;
@@ -109,7 +78,7 @@ private Q_SLOTS:
         TestDesk desk;
         DocumentController controller(desk.kinds, desk.desk);
         const auto document = open(controller, u"budget-v1.budget"_s);
-        PlainWindow window(dynamic_cast<PlainDocument&>(*document));
+        RegisterWindow window(dynamic_cast<Register&>(*document));
         window.show();
         QSignalSpy wanted(&window, &DocumentWindow::closeWanted);
         window.close();
@@ -118,9 +87,9 @@ private Q_SLOTS:
     }
 };
 
-int runPlainWindowTest(int argc, char** argv) {
-    PlainWindowTest test;
+int runDocumentWindowTest(int argc, char** argv) {
+    DocumentWindowTest test;
     return QTest::qExec(&test, argc, argv);
 }
 
-#include "PlainWindowTest.moc"
+#include "DocumentWindowTest.moc"

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/ui/ControlBinder.h"
+
+class QProgressBar;
+
+namespace sargan {
+
+/// A bar that the program fills; beyond its ends it is empty or full.
+class GaugeBinder : public ControlBinder {
+public:
+    GaugeBinder(Form& form, int control, QWidget* parent);
+    QWidget* widget() const override;
+    bool grows() const override { return true; }
+
+protected:
+    void show(const ControlState& state) override;
+
+private:
+    QProgressBar* _bar;
+};
+
+}  // namespace sargan
