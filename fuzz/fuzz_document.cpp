@@ -5,6 +5,7 @@
 #include "platform/archive/ArchiveError.h"
 #include "platform/document/DocumentError.h"
 #include "platform/record/RecordJson.h"
+#include "registers/Register.h"
 
 // Any bytes as a document: they open or are refused with a sentence, never anything else. What opens is
 // shown, saved and read again, and then is the same.
@@ -26,7 +27,8 @@ struct Bench {
     Strings strings;
     NotificationCenter notifications;
     PickLists pickLists{defaults};
-    Desk desk{prompt, defaults, strings, notifications, pickLists, Clock(QDateTime(QDate(2016, 6, 7), QTime(14, 30))),
+    Desk desk{prompt,        defaults,  strings,
+              notifications, pickLists, Clock(QDateTime(QDate(2016, 6, 7), QTime(14, 30))),
               Log()};
     SaveTypes saveTypes = makeSaveTypes();
     DocumentKinds kinds = makeDocumentKinds(saveTypes);
@@ -45,6 +47,18 @@ void walkThroughForm(Carnet& carnet) {
         carnet.select({row});
         carnet.updateDive();
     }
+}
+
+/// The same for every record of a register; its table and its cards can be shown as well.
+void walkThroughRegister(Register& shown) {
+    const int columns = int(shown.tableColumns().size());
+    for (qsizetype row = 0; row < std::min<qsizetype>(shown.rowCount(), 8); ++row) {
+        shown.selectRows({row});
+        shown.updateRecord();
+        for (int column = 0; column < columns; ++column) shown.tableCell(row, column);
+        if (shown.hasCard()) shown.card(row);
+    }
+    for (const TableColumn& column : shown.tableColumns()) shown.clickTableColumn(column.identifier);
 }
 
 }  // namespace
@@ -69,5 +83,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (again->summary().records != document->summary().records) std::abort();
     if (again->dataRepresentationOfType(type) != saved) std::abort();
     if (auto* carnet = qobject_cast<Carnet*>(document.get())) walkThroughForm(*carnet);
+    if (auto* list = dynamic_cast<Register*>(document.get())) walkThroughRegister(*list);
     return 0;
 }

@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 #include "cli/Session.h"
+#include "interchange/Formats.h"
 
 namespace sargan::cli {
 
@@ -37,33 +38,20 @@ void runFind(Session& session, const Arguments& arguments) {
     print(carnet.panel().text(panelcontrol::found));
 }
 
-/// The short names of the export types, and the type names that they stand for.
-constexpr const char* exportTypes[][2] = {
-    {"csv-semicolon", "Export Carnet CSV (Point-virgule)"},
-    {"csv-comma", "Export Carnet CSV (Virgule)"},
-    {"txt-tab", "Export Carnet TXT (Tabulation)"},
-    {"profiles-csv", "Export Profils CSV (Virgule)"},
-    {"udcf", "Export UDCF (Universal Dive Computer Format)"},
-    {"uddf", "Export UDDF (Universal Dive Data Format)"},
-};
-
-QString exportTypeNamed(const QString& name) {
-    for (const auto& [shortName, typeName] : exportTypes)
-        if (name == QLatin1String(shortName) || name == QLatin1String(typeName))
-            return QString::fromLatin1(typeName);
-    throw UsageError(QStringLiteral("there is no export type \"%1\"").arg(name));
-}
-
 void runExport(Session& session, const Arguments& arguments) {
     arguments.atMost(1);
-    const QString type = exportTypeNamed(arguments.one("--type"));
+    const QString type = arguments.one("--type");
+    const ExportFormat* format = exportFormatNamed(type);
+    if (!format) throw UsageError(QStringLiteral("there is no export type \"%1\"").arg(type));
     const QString output = arguments.one("-o");
     const auto document = session.read(arguments.at(0, "FILE"));
-    const QByteArray bytes = session.logbook(*document).dataRepresentationOfType(type);
-    if (bytes.isNull())
-        throw DocumentError(
-            QStringLiteral("%1: this program cannot write \"%2\" yet").arg(document->path(), type));
-    writeOutput(output, bytes);
+    Carnet& carnet = session.logbook(*document);
+    try {
+        writeOutput(output, carnet.dataRepresentationOfType(QLatin1String(format->typeName)));
+    } catch (const DocumentError& error) {
+        if (!error.path().isEmpty() || error.message().key.isEmpty()) throw;
+        throw DocumentError(error.message(), document->path());
+    }
 }
 
 constexpr OptionSpec renumberOptions[] = {{"--from", Takes::Numbers, "S", "number of the first dive"}};

@@ -4,6 +4,7 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
+#include "platform/document/DocumentError.h"
 #include "platform/files/SafeFile.h"
 #include "platform/text/CodeTexts.h"
 #include "platform/text/Strings.h"
@@ -162,6 +163,17 @@ private Q_SLOTS:
             const auto entry = texts.find({u"Files"_s, message.key});
             QVERIFY2(entry != texts.end(), qPrintable(message.key));
             QCOMPARE(entry->count(u"%@"_s), message.format.count(u"%@"_s));
+        }
+    }
+
+    void documentProblemsAreThereAndTakeTheirValues_data() { addLanguages(); }
+    void documentProblemsAreThereAndTakeTheirValues() {
+        QFETCH(QString, language);
+        const auto texts = readCatalogue(language).texts;
+        for (const documentproblem::Wording& wording : documentproblem::all) {
+            const auto entry = texts.find({u"Files"_s, QString::fromUtf8(wording.key)});
+            QVERIFY2(entry != texts.end(), wording.key);
+            QCOMPARE(entry->count(u"%@"_s), QByteArray(wording.format).count("%@"));
         }
     }
 };

@@ -16,7 +16,7 @@ QString joined(const QString& source) {
     static const QRegularExpression literal(uR"re("((?:[^"\\\n]|\\.)*)")re"_s);
     QString text;
     for (auto it = literal.globalMatch(source); it.hasNext();) text += it.next().captured(1);
-    return text.replace(u"\\\""_s, u"\""_s).replace(u"\\n"_s, u"\n"_s).replace(u"\\\\"_s, u"\\"_s);
+    return text.replace(u"\\\""_s, u"\""_s).replace(u"\\n"_s, u"\n"_s).replace(u"\\r"_s, u"\r"_s).replace(u"\\\\"_s, u"\\"_s);
 }
 
 std::vector<ArgumentKind> kindsNamed(const QString& types) {
@@ -25,7 +25,7 @@ std::vector<ArgumentKind> kindsNamed(const QString& types) {
         const QString name = type.trimmed();
         if (name == u"int"_s || name == u"qint64"_s || name == u"qsizetype"_s || name == u"WholeNumber"_s)
             kinds.push_back(ArgumentKind::Whole);
-        else if (name == u"float"_s || name == u"double"_s)
+        else if (name == u"float"_s || name == u"double"_s || name == u"Float"_s)
             kinds.push_back(ArgumentKind::Real);
         else if (name == u"QString"_s)
             kinds.push_back(ArgumentKind::Text);

@@ -2,5 +2,5 @@
 #include "support/TestMain.h"
 
 int main(int argc, char** argv) {
-    return runTests(argc, argv, {runMessageTest, runNumbersTest, runStringsTest, runCatalogueTest});
+    return runTests(argc, argv, {runMacRomanTest, runMessageTest, runNumbersTest, runStringsTest, runCatalogueTest});
 }

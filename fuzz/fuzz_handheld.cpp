@@ -1,0 +1,6 @@
+#include "fuzz/FuzzImport.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    sargan::fuzz::importOne("handheld", data, size);
+    return 0;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <vector>
+
+namespace sargan {
+
+/// Writes an XML file in UTF-8, one element a line, indented by tabs. It keeps no tree: a logbook's samples
+/// are millions of elements.
+class XmlWriter {
+public:
+    explicit XmlWriter(QByteArray& bytes);
+
+    void open(const char* name);
+    void open(const char* name, const char* attribute, const char* value);
+    void close();
+    void comment(const QString& text);
+    /// An element with a text. Characters that XML cannot hold become U+FFFD.
+    void element(const char* name, const QString& text);
+    void element(const char* name, const char* ascii);
+    void element(const char* name, qint64 number);
+    /// With this many decimals, as "%.1f" gives them.
+    void element(const char* name, double number, int decimals);
+    void empty(const char* name);
+
+private:
+    void indent();
+    void start(const char* name);
+    void end(const char* name);
+
+    QByteArray& _bytes;
+    std::vector<const char*> _open;
+};
+
+/// Appends the number with this many decimals, rounded as "%.*f" does.
+void appendFixed(QByteArray& bytes, double number, int decimals);
+void appendWhole(QByteArray& bytes, qint64 number);
+
+}  // namespace sargan

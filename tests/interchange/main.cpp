@@ -1,0 +1,8 @@
+#include "interchange/InterchangeTests.h"
+#include "support/TestMain.h"
+
+int main(int argc, char** argv) {
+    return runTests(argc, argv,
+                    {runTextExportTest, runUddfExportTest, runUddfImportTest, runUdcfTest, runHandheldTest,
+                     runHostileXmlTest, runImportTest, runRoundTripTest, runInterchangeCommandTest});
+}
