@@ -1,160 +1,18 @@
-"""One golden archive of each register at its current version: two records with every slot filled."""
+"""The golden archives of the registers: every class in every version that reads differently, two records with
+every slot filled and some at the edges, and what the program makes of them when it saves them again."""
 
 from __future__ import annotations
 
-import base64
 import struct
 import zlib
 from typing import Any, Iterator
 
 import plongee
 import typedstream as ts
-from plongee import levels, seconds_of
+from plongee import seconds_of
+from register_classes import LAST, REGISTERS, Register, Slot, Values, as_json, read, record, shared_bearing
 
-Slots = list[tuple[str, str]]  # name, kind: i, f, string, date, image
-
-DAYS = ["Lundi", "Mardi", "Mercredi", "Jeudi", "Vendredi", "Samedi", "Dimanche"]
-OPENING_HOURS = [f"horaire{day}_{n}" for day in DAYS for n in range(1, 5)]
-
-
-def _slots(*runs: tuple[str, list[str] | str]) -> Slots:
-    """Runs of slots of one kind; the names of a run are a list or stand in one text."""
-    order = []
-    for kind, names in runs:
-        order += [(name, kind) for name in (names.split() if isinstance(names, str) else names)]
-    return order
-
-
-EPAVES = _slots(
-    ("string", "nom type immatriculation nationalite"),
-    ("f", "longueur largeur"),
-    ("i", "materiau jauge propulsion"),
-    ("string", "dateConstruction lieuConstruction dateNaufrage causeNaufrage"),
-    ("f", "pointHaut pointBas"),
-    ("i", "orientationSwitch orientation inclinaison"),
-    ("date", "dateVisite"),
-    ("i", "aVisiter"),
-    ("string", "lieu site pays gps"),
-    ("i", "gpsSystem acces accesBord localisation interet technicite"),
-    # The program writes the first bearing in the third one's place, but reads whatever stands there.
-    ("string", "relevement1 relevement2 relevement3"),
-    ("image", "photo"),
-    ("string", "notes typeMachine puissance"),
-    ("i", "puissancePopUp"),
-    ("string", "natureFond nomsPrecedents armateur ports capitaine equipage chargement provenance destination"),
-    ("date", "miseAJour"),
-)
-
-MATERIEL = _slots(
-    ("string", "matosNo typeMatos marqueMatos serieMatos"),
-    ("date", "dateAchat"),
-    ("i", "quantiteMatos"),
-    ("string", "prixMatos"),
-    ("date", "lastRevision nextRevision"),
-    ("string", "tankMaker"),
-    ("date", "firstRequalificationDate lastRequalification nextRequalification"),
-    ("i", "noInspection bloc tiv"),
-    ("string", "noTIV nomTIV valveRef"),
-    ("i", "resultTIV"),
-    ("f", "capaciteBloc"),
-    ("i", "pressionService pressionEpreuve"),
-    ("string", "notesMatos"),
-    ("i", "equipState factureMatos"),
-    ("string", "lieuAchatMatos"),
-)
-
-COMPRESSEUR = _slots(
-    ("string", "marque modele cumulTemps"),
-    ("date", "date temps"),
-    ("i", "vidange typeHuile filtreAir operationFiltre cartouche charbon alumine tamis depoussierage"),
-    ("i", "controles soupapes intSoupape"),
-    ("f", "anHuile anCO2 anCO anH2O"),
-    ("i", "anCO2Unit anCOUnit"),
-    ("string", "notes"),
-)
-
-REBREATHER = _slots(
-    ("date", "date"),
-    ("string", "rebreatherTime"),
-    ("date", "sofnoTime"),
-    ("i", "sofnolime disinfection battery cells nbCells injector valve oRing electronicHead scrubber mpO2"),
-    ("f", "mpO2Value"),
-    ("i", levels("cell", 5)),
-    ("string", levels("typeCell", 5)),
-    ("date", levels("cell", 5, "_in")),
-    ("string", "notes"),
-)
-
-CONSOMMABLES = _slots(
-    ("string", "reference marque utilisation"),
-    ("f", "stock reserve reserveMax"),
-    ("string", "rangement"),
-    ("i", "noInventaire"),
-    ("date", "dateInventaire"),
-    ("string", "notes"),
-)
-
-BUDGET = _slots(
-    ("string", "prestation"),
-    ("i", [f"quantite_{n}" for n in range(6)]),
-    ("f", [f"prixUnitaire_{n}" for n in range(6)]),
-    ("string", levels("supplement_", 4)),
-    ("i", "prixDegressif"),
-    ("i", levels("unitesCarte_", 4)),
-    ("f", levels("prixCarte_", 4)),
-    ("i", "prevDepense"),
-    ("string", "entreprise"),
-    ("i", "qualitePrix delai"),
-    ("date", "miseAJour"),
-    ("string", "notes"),
-)
-
-ENTREPRISES = _slots(
-    ("string", "entreprise adresse codePostal ville pays telephone fax email url activite"),
-    ("date", "miseAJour"),
-    ("string", [*OPENING_HOURS, "remarques"]),
-    ("i", "cotation"),
-)
-
-STRUCTURES = _slots(
-    ("string", "nom"),
-    ("i", "type"),
-    ("string", "affiliation gerant adresse"),
-    ("i", "codePostal"),
-    ("string", "ville pays telephone portable fax url email"),
-    ("i", "cotation"),
-    ("date", "miseAJour"),
-    ("string", levels("plongee_", 5)),
-    ("f", ["bapteme", *levels("prix_", 5)]),
-    ("string", levels("formation_", 6)),
-    ("f", levels("prixForm_", 6)),
-    ("string", OPENING_HOURS),
-    ("i", "nbPlongees"),
-    ("string", "remarques"),
-)
-
-DIVERS_DOCS = _slots(
-    ("i", "type"),
-    ("string", "titre emetteur"),
-    ("date", "date"),
-    ("i", "renouveler"),
-    ("date", "dateRenouvellement"),
-    ("image", "photocopy"),
-    ("string", "notes"),
-)
-
-# file stem and extension, class, version, slots
-REGISTERS = [
-    ("epaves", "Epaves", 6, EPAVES),
-    ("materiel", "Materiel", 5, MATERIEL),
-    ("compresseur", "Compresseur", 1, COMPRESSEUR),
-    ("rebreather", "Rebreather", 4, REBREATHER),
-    ("consommables", "Consommables", 3, CONSOMMABLES),
-    ("budget", "Budget", 1, BUDGET),
-    ("entreprises", "Entreprises", 3, ENTREPRISES),
-    ("structures", "Structures", 0, STRUCTURES),
-    ("documents", "DiversDocs", 1, DIVERS_DOCS),
-]
+Archive = tuple[str, bytes, dict | None]
 
 
 # ---- small pictures
@@ -208,35 +66,82 @@ def image_around(content: bytes, nested: bool) -> ts.Object:
 
 # ---- the records
 
+# What stands in a text slot that was to become something else.
+OLD_DATES = ("5/3/2010", "17/12/2009", "vers 1998", "31/2/2011")
 
-def _filled(kind: str, name: str, place: int, number: int) -> tuple[str, Any, Any]:
-    """Type code, archived value and expected value of one slot, unlike every other of its record."""
-    if kind == "i":
-        value = (100000 * place if place % 6 == 5 else 100 * number + place) * (-1 if place % 9 == 4 else 1) + number
-        return "i", value, value
-    if kind == "f":
-        value = ts.to_float32(100 * number + place + (0 if place % 4 == 3 else 0.3))
-        return "f", value, plongee.short_float(value)
-    if kind == "date":
-        seconds = seconds_of(2005 + number, 1 + place % 12, 1 + place % 28, place % 24, 7 * number, place % 60)
-        return "@", ts.date(seconds), plongee.local_time(seconds)
-    if kind == "image":
+
+def _filled(slot: Slot, place: int, number: int) -> Any:
+    """A value of one slot, unlike every other of its record."""
+    if slot.kind == "i":
+        value = 100000 * place if place % 6 == 5 else 100 * number + place
+        return value * (-1 if place % 9 == 4 else 1) + number
+    if slot.kind == "f":
+        return ts.to_float32(100 * number + place + (0 if place % 4 == 3 else 0.3))
+    if slot.kind == "date":
+        return seconds_of(2005 + number, 1 + place % 12, 1 + place % 28, place % 24, 7 * number, place % 60)
+    if slot.kind == "image":
         content = (tiny_png if number else tiny_tiff)(200, 10 * number, place)
-        return "@", image_around(content, nested=number == 1), base64.b64encode(content).decode()
-    text = f"{name} {number}" if place % 3 else f"{name} « {number} »"
-    return "@", ts.string(text), text
+        return image_around(content, nested=number == 1)
+    if slot.name == "dateAchatMatos":
+        return OLD_DATES[number]
+    return f"{slot.name} {number}" if place % 3 else f"{slot.name} « {number} »"
 
 
-def registers() -> Iterator[tuple[str, bytes, dict]]:
-    for stem, cls, version, slots in REGISTERS:
-        records, decoded = [], []
-        for number in range(2):
-            filled = [_filled(kind, name, place, number) for place, (name, kind) in enumerate(slots)]
-            records.append(ts.record(cls, version, [(code, (value,)) for code, value, _ in filled]))
-            decoded.append([[kind, value] for (_, kind), (_, _, value) in zip(slots, filled)])
-            for wanted in ("i", "f", "string", "date"):
-                values = [value for kind, value in decoded[-1] if kind == wanted]
-                if len(set(values)) != len(values):
-                    raise ValueError(f"two slots of {cls} with the same value")
-        expectation = {"class": cls, "version": version, "names": [name for name, _ in slots], "slots": decoded}
-        yield f"{stem}-v{version}.{stem}", ts.encode(ts.array(records)), expectation
+def _edge(slot: Slot, place: int, number: int) -> Any:
+    """Empty and short texts, the greatest and the smallest numbers, dates before and after all others."""
+    if slot.kind == "i":
+        greatest = 2**24 if slot.until < LAST else 2**31 - 1  # what was a whole number then is a float32 now
+        return (-(2**31), greatest, -128, 32768, -1, 0)[(place + number) % 6]
+    if slot.kind == "f":
+        return (-1.0, -0.0, 3.4028234663852886e38, ts.to_float32(1e-45), -0.5, 0.0)[(place + number) % 6]
+    if slot.kind == "date":
+        return (seconds_of(1900, 1, 1), 0.0, seconds_of(2044, 2, 29, 12, 0, 0.125), -0.5)[(place + number) % 4]
+    if slot.kind == "image":
+        return image_around(tiny_png(1, 2, place), nested=True)
+    if slot.name == "dateAchatMatos":
+        return OLD_DATES[number]
+    return ("", "seven 7", "水中 Ω\r\n\t\"", "seven 7", "a\x00b")[(place + number) % 5]
+
+
+def _values(register: Register, version: int, make: Any, number: int) -> Values:
+    slots = register.in_version(version)
+    values = {slot.name: make(slot, place, number) for place, slot in enumerate(slots)}
+    if make is _filled:
+        for wanted in ("i", "f", "string", "date"):
+            of_kind = [values[slot.name] for slot in slots if slot.kind == wanted]
+            if len(set(of_kind)) != len(of_kind):
+                raise ValueError(f"two slots of {register.cls} with the same value")
+    return values
+
+
+def _archive(
+    register: Register, name: str, version: int, records: list[Values], policy: str, again: int | None = None
+) -> Iterator[Archive]:
+    """One archive with its expectation, and what it is when the program saves it again. With `again`, the record
+    of that index stands a second time at the end."""
+    decoded = [read(register, values, version) for values in records]
+    archived = [record(register, values, version) for values in records]
+    is_wreck = register.cls == "Epaves"
+    saved = [record(register, shared_bearing(fields) if is_wreck else fields) for fields in decoded]
+    expectation = {"type": register.type_name, "class": register.cls, "version": version}
+    expectation["records"] = [as_json(register, fields) for fields in decoded]
+    for rows in (archived, saved, expectation["records"]):
+        if again is not None:
+            rows.append(rows[again])
+    yield f"{name}.{register.stem}", ts.encode(ts.array(archived), policy), expectation
+    yield f"resaved-{name}.{register.stem}", ts.encode(ts.array(saved)), None
+
+
+def registers() -> Iterator[Archive]:
+    for register in REGISTERS:
+        current = register.version
+        name = f"{register.stem}-v{current}"
+        yield from _archive(
+            register, name, current, [_values(register, current, _filled, number) for number in range(2)], "current"
+        )
+        edges = [_values(register, current, _edge, number) for number in range(6)]
+        yield from _archive(register, f"{name}-edges", current, [{}, *edges], "current", again=1)
+        for version in register.old_versions:
+            records = [_values(register, version, _filled, number) for number in range(2)]
+            records += [{}, *(_values(register, version, _edge, number) for number in (2, 3))]
+            yield from _archive(register, f"{register.stem}-v{version}", version, records, "plain", again=1)

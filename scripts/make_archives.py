@@ -1,16 +1,15 @@
 #!/usr/bin/env python3
 """Make the golden archives in tests/data/archives: logbooks of every archive version that reads differently,
-archives with odd but legal contents, archives that must be refused, and one of each register.
+archives with odd but legal contents, archives that must be refused, and the registers of every version.
 
 Beside each archive stands a JSON file with what a reader must make of it, worked out here and never by the
 program. In one record every number and text differs from every other, so that a slot dropped, doubled or
 swapped shows. The result is the same on every run; `--check` compares it with the files that are there.
 
-Logbooks: {"type", "class", "version", "records": [{field: value}]}. Dates are local (Europe/Paris), ISO 8601;
-absent is null; reals in the shortest form that reads back as the same float32; an array element that is no
-readable number is null. Registers: {"class", "version", "names", "slots": [[[type, value], ...], ...]} in file
-order, without conversions. Archives to be refused: {"refused": reason}. An archive named "resaved-..." stands
-alone: it is, byte for byte, what the program writes after it has read the archive of that name.
+{"type", "class", "version", "records": [{field: value}]}. Dates are local (Europe/Paris), ISO 8601; absent is
+null; reals in the shortest form that reads back as the same float32; an array element that is no readable number
+is null. Archives to be refused: {"refused": reason}. An archive named "resaved-..." stands alone: it is, byte for
+byte, what the program writes after it has read the archive of that name.
 """
 
 from __future__ import annotations

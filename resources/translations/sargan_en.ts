@@ -523,6 +523,42 @@
 <context>
     <name>Files</name>
     <message>
+        <source>Document open elsewhere</source>
+        <translation>Another program has this file open, so it was left alone.</translation>
+    </message>
+    <message>
+        <source>Document no records</source>
+        <translation>Its content is not a list of records.</translation>
+    </message>
+    <message>
+        <source>Document damaged</source>
+        <translation>It is damaged at byte %@: %@.</translation>
+    </message>
+    <message>
+        <source>Document other type</source>
+        <translation>A document of the type “%@” was expected, not “%@”.</translation>
+    </message>
+    <message>
+        <source>Document look only</source>
+        <translation>This document was opened to look at only, so the file was left alone.</translation>
+    </message>
+    <message>
+        <source>Document not the same</source>
+        <translation>What would be written does not read back as this document, so nothing was written.</translation>
+    </message>
+    <message>
+        <source>Document no export</source>
+        <translation>There is no export type “%@”.</translation>
+    </message>
+    <message>
+        <source>Document never saved</source>
+        <translation>The document has never been saved.</translation>
+    </message>
+    <message>
+        <source>Document foreign records</source>
+        <translation>Its records are of the class “%@”, which is none of this program’s.</translation>
+    </message>
+    <message>
         <source>Read bad name</source>
         <translation>“%@” cannot be read: this name cannot be the name of a file.</translation>
     </message>

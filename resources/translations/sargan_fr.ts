@@ -523,6 +523,42 @@
 <context>
     <name>Files</name>
     <message>
+        <source>Document open elsewhere</source>
+        <translation>Un autre programme a ouvert ce fichier ; il n’a pas été touché.</translation>
+    </message>
+    <message>
+        <source>Document no records</source>
+        <translation>Son contenu n’est pas une liste de fiches.</translation>
+    </message>
+    <message>
+        <source>Document damaged</source>
+        <translation>Il est abîmé à l’octet %@ (%@).</translation>
+    </message>
+    <message>
+        <source>Document other type</source>
+        <translation>Un document du type « %@ » était attendu, et non « %@ ».</translation>
+    </message>
+    <message>
+        <source>Document look only</source>
+        <translation>Ce document a été ouvert en lecture seule ; le fichier n’a pas été touché.</translation>
+    </message>
+    <message>
+        <source>Document not the same</source>
+        <translation>Ce qui serait écrit ne se relit pas comme ce document ; rien n’a été écrit.</translation>
+    </message>
+    <message>
+        <source>Document no export</source>
+        <translation>Il n’y a pas de type d’export « %@ ».</translation>
+    </message>
+    <message>
+        <source>Document never saved</source>
+        <translation>Le document n’a jamais été enregistré.</translation>
+    </message>
+    <message>
+        <source>Document foreign records</source>
+        <translation>Ses fiches sont de la classe « %@ », que ce programme ne connaît pas.</translation>
+    </message>
+    <message>
         <source>Read bad name</source>
         <translation>« %@ » ne peut pas être lu : ce nom ne peut pas être celui d’un fichier.</translation>
     </message>
@@ -1255,7 +1291,7 @@
     </message>
     <message>
         <source>State</source>
-        <translation>Marée</translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>Store</source>

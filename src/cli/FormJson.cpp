@@ -1,5 +1,6 @@
 #include "cli/FormJson.h"
 
+#include "platform/form/ColorText.h"
 #include "platform/form/SystemColors.h"
 #include "platform/record/RecordJson.h"
 
@@ -21,6 +22,8 @@ QJsonValue valueOf(const Form& form, int control) {
             return json::value(Picture{state.image});
         case ControlKind::Color:
             return colorToJson(state.color);
+        case ControlKind::Gauge:
+            return json::number(state.level);
         default:
             return state.text;
     }
@@ -30,9 +33,7 @@ QJsonValue valueOf(const Form& form, int control) {
 
 QJsonValue colorToJson(const QColor& color) {
     if (!color.isValid()) return {};
-    return QStringLiteral("rgba(%1, %2, %3, %4)")
-        .arg(shortest(color.redF()), shortest(color.greenF()), shortest(color.blueF()),
-             shortest(color.alphaF()));
+    return colorText(componentsOf(color));
 }
 
 QJsonValue textColorToJson(const QColor& color) {

@@ -1,5 +1,14 @@
 #include "cli/Command.h"
 #include "logbook/PlongeeArchive.h"
+#include "registers/Budget.h"
+#include "registers/Compresseur.h"
+#include "registers/Consommables.h"
+#include "registers/DiversDocs.h"
+#include "registers/Entreprises.h"
+#include "registers/Epaves.h"
+#include "registers/Materiel.h"
+#include "registers/Rebreather.h"
+#include "registers/Structures.h"
 
 namespace sargan::cli {
 
@@ -46,6 +55,26 @@ QString tableOf(const RecordClass<R>& cls, const char* what) {
     return page;
 }
 
+QString registerTables() {
+    QString page = tableOf(epavesClass(), "one wreck of a wreck register");
+    page += QStringLiteral(
+        "\nA third bearing is read but never written. Up to version 4, the texts that later versions added "
+        "are "
+        "empty,\nnot absent.\n");
+    page += tableOf(materielClass(), "one item of an equipment inventory");
+    page += QStringLiteral(
+        "\nUp to version 2, `dateAchat` is the day that the text `dateAchatMatos` names as day/month/year. "
+        "`progress` and\nthe texts in place of dates are not written.\n");
+    page += tableOf(compresseurClass(), "one service of a compressor");
+    page += tableOf(rebreatherClass(), "one intervention on a rebreather");
+    page += tableOf(consommablesClass(), "one spare part");
+    page += tableOf(budgetClass(), "one priced service of a budget forecast");
+    page += tableOf(entreprisesClass(), "one firm of an address book");
+    page += tableOf(structuresClass(), "one club of an address book");
+    page += tableOf(diversDocsClass(), "one of the diver's papers");
+    return page.trimmed();
+}
+
 }  // namespace
 
 QString fileFormatPage() {
@@ -53,8 +82,9 @@ QString fileFormatPage() {
     page += QStringLiteral(
         "\nUp to version 26, each pony tank's value of 1 or more takes the place of the bail-out tank's "
         "value of the\n"
-        "same position. `computerMode`, `etranger`, the stage switches and the pony tanks are not written.");
-    return page;
+        "same position. `computerMode`, `etranger`, the stage switches and the pony tanks are not "
+        "written.\n");
+    return page + registerTables();
 }
 
 }  // namespace sargan::cli

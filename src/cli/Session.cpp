@@ -5,18 +5,21 @@
 #include <cstdio>
 
 #include "platform/files/DocumentLock.h"
+#include "settings/InterfaceChoice.h"
+#include "settings/RegisteredDefaults.h"
 
 namespace sargan::cli {
 
 Session::Session(const GlobalOptions& options)
     : _defaults(options.settings),
       _prompt(options.agree),
-      _strings(options.language.value_or(Strings::systemLanguage())),
+      _strings(options.language.value_or(preferredLanguage(_defaults))),
       _pickLists(_defaults),
       _desk{_prompt, _defaults, _strings, _notifications, _pickLists, Clock(options.now), Log()},
       _saveTypes(makeSaveTypes()),
       _kinds(makeDocumentKinds(_saveTypes)),
       _controller(_kinds, _desk) {
+    registerDefaults(_defaults, _pickLists);
     if (!_defaults.problem().isEmpty()) std::fprintf(stderr, "%s\n", qUtf8Printable(_defaults.problem()));
 }
 
@@ -28,8 +31,7 @@ void Session::edit(const QString& path, const std::function<bool(Document&)>& ch
     DocumentLock lock(path);
     std::unique_ptr<Document> document = read(path);
     if (!lock.tryLock())
-        throw DocumentError(
-            QStringLiteral("%1: another program has this file open, so it was not changed").arg(path));
+        throw documentError(documentproblem::openElsewhere, {}, path);
     if (change(*document) && document->isEdited()) document->save();
 }
 
@@ -47,7 +49,12 @@ Carnet& Session::logbook(Document& document) {
 
 void Session::fill(Form& form, const QList<std::pair<QString, QString>>& values, const QStringList& presses) {
     try {
-        for (const auto& [name, value] : values) form.fill(form.find(name), value);
+        // All names first: a slip is to be told before any question is asked and answered.
+        QList<int> controls;
+        for (const auto& [name, value] : values) controls << form.find(name);
+        for (const QString& action : presses)
+            if (!form.actionNames().contains(action)) throw UnknownControlError(action);
+        for (qsizetype i = 0; i < values.size(); ++i) form.fill(controls[i], values[i].second);
         for (const QString& action : presses) form.press(action);
     } catch (const UnknownControlError& error) {
         throw UsageError(error.sentence());

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "registers/Register.h"
+
+namespace sargan {
+
+/// How an item of the toolbars looks.
+struct ToolbarLook {
+    Message<> label;
+    const char* icon;
+    Message<> tip;
+};
+
+struct ToolbarItem {
+    const char* identifier;
+    ToolbarLook look;
+};
+
+/// The items that a toolbar shows, in order. An identifier that nothing is made for stays out.
+QList<ToolbarItem> toolbarItems(const RegisterDesign& design, const RegisterToolbar& bar);
+
+/// Whether an item is enabled now: while there are records, or while the pick list that the register looks at
+/// has entries.
+bool validateToolbarItem(const Register& shown, const char* identifier);
+
+}  // namespace sargan

@@ -1,0 +1,6 @@
+#include "registers/ui/RegisterUiTests.h"
+#include "support/GuiMain.h"
+
+int main(int argc, char** argv) {
+    return runGuiTests(argc, argv, {runRegisterWindowTest, runRegisterPictureTest, runOtherRegistersTest});
+}
