@@ -85,6 +85,11 @@ function(sargan_test name)
   add_executable(${target} ${ARG_SOURCES})
   target_link_libraries(${target} PRIVATE sargan_options Qt6::Test ${ARG_LIBRARIES})
   target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  if("${ARG_LIBRARIES}" MATCHES "_ui|Widgets")
+    target_precompile_headers(${target} REUSE_FROM sargan_pch_widgets)
+  else()
+    target_precompile_headers(${target} REUSE_FROM sargan_pch_core)
+  endif()
   target_compile_definitions(${target} PRIVATE
     SARGAN_SOURCE_DIR="${PROJECT_SOURCE_DIR}" SARGAN_BINARY_DIR="${PROJECT_BINARY_DIR}")
   # QtTest's own crash handler can go round for ever after an abort; the system's does not.

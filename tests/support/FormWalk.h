@@ -36,6 +36,10 @@ inline void operate(QWidget* widget, const sargan::ControlSpec& spec, int turn) 
             break;
         case ControlKind::PopUp: {
             auto* combo = qobject_cast<QComboBox*>(widget);
+            if (spec.spread) {
+                widget->findChildren<QRadioButton*>().at(turn % int(spec.menu.size()))->click();
+                break;
+            }
             combo->setFocus();
             QTest::keyClick(combo, Qt::Key_Home);
             for (int i = 1; i <= turn % combo->count(); ++i) QTest::keyClick(combo, Qt::Key_Down);
@@ -53,6 +57,7 @@ inline void operate(QWidget* widget, const sargan::ControlSpec& spec, int turn) 
             QTest::mouseClick(widget, Qt::LeftButton);
             break;
         case ControlKind::Caption:
+        case ControlKind::Gauge:
             break;
     }
 }
@@ -71,6 +76,7 @@ inline QString expectedAfter(const sargan::ControlSpec& spec, int turn, const QS
         case ControlKind::Slider:
             return QString::number(std::min(spec.minimum + turn, spec.maximum));
         case ControlKind::Caption:
+        case ControlKind::Gauge:
             return before;
         default:
             return u"1%1,5"_s.arg(turn);
@@ -103,6 +109,12 @@ inline QString shown(const QWidget* widget, const sargan::ControlSpec& spec) {
     if (const auto* area = qobject_cast<const QPlainTextEdit*>(widget)) return area->toPlainText();
     if (const auto* combo = qobject_cast<const QComboBox*>(widget))
         return spec.kind == ControlKind::PopUp ? combo->currentData().toString() : combo->currentText();
+    if (spec.spread) {
+        const auto buttons = widget->findChildren<QRadioButton*>();
+        for (int place = 0; place < buttons.size(); ++place)
+            if (buttons[place]->isChecked()) return QString::number(spec.menu[std::size_t(place)].tag);
+        return u"nothing"_s;
+    }
     if (const auto* box = qobject_cast<const QCheckBox*>(widget))
         return QString::number(box->isChecked() ? 1 : 0);
     if (const auto* slider = qobject_cast<const QSlider*>(widget)) return QString::number(slider->value());

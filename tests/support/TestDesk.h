@@ -3,6 +3,7 @@
 #include "cli/Suite.h"
 #include "platform/desk/Desk.h"
 #include "platform/document/DocumentController.h"
+#include "settings/RegisteredDefaults.h"
 
 namespace sargan {
 
@@ -18,6 +19,8 @@ struct TestDesk {
               Log()};
     SaveTypes saveTypes = makeSaveTypes();
     DocumentKinds kinds = makeDocumentKinds(saveTypes);
+
+    TestDesk() { registerDefaults(defaults, pickLists); }
 
     std::unique_ptr<Carnet> newLogbook() {
         return std::make_unique<Carnet>(kinds.standard(), desk, saveTypes);

@@ -4,8 +4,8 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -13,6 +13,7 @@
 #include "calculators/WindowBuilder.h"
 #include "calculators/ui/ResultMarks.h"
 #include "platform/ui/FormView.h"
+#include "platform/ui/PaneScroller.h"
 
 namespace sargan {
 
@@ -111,6 +112,8 @@ void CalculatorWindow::bringToFront() {
 
 QString CalculatorWindow::nextAction() const {
     const QWidget* focus = focusWidget();
+    // A radio button stands for the control that it is part of.
+    if (qobject_cast<const QRadioButton*>(focus)) focus = focus->parentWidget();
     const QString here = focus ? focus->objectName() : QString();
     QString last = QString::fromLatin1(_calculator.spec().actions.first());
     bool isBehind = false;
@@ -176,8 +179,8 @@ void CalculatorWindow::growToFit() {
     _growing = false;
     if (!isVisible() || isMaximized() || isFullScreen()) return;
     QSize lacking(0, 0);
-    for (const QScrollArea* pane : _view->findChildren<QScrollArea*>())
-        lacking = lacking.expandedTo(pane->widget()->minimumSizeHint() - pane->viewport()->size());
+    for (const PaneScroller* pane : _view->findChildren<PaneScroller*>())
+        lacking = lacking.expandedTo(pane->leastSideBySide() - pane->viewport()->size());
     if (lacking.isNull()) return;
     resize((size() + lacking).boundedTo(screen()->availableSize()));
 }

@@ -80,14 +80,6 @@ private:
     bool _begun = false;
 };
 
-bool beginsLikePicture(QByteArrayView bytes) {
-    using namespace std::string_view_literals;
-    for (const auto start : {"MM\0*"sv, "II*\0"sv, "\x89PNG"sv, "\xff\xd8\xff"sv}) {
-        if (bytes.startsWith(QByteArrayView(start.data(), qsizetype(start.size())))) return true;
-    }
-    return false;
-}
-
 /// Remembers the first picture it passes, and the objects that are only referred to.
 class PictureFinder : public ValueSink {
 public:
@@ -179,6 +171,14 @@ QByteArray ArchivedObject::pictureBytes() const {
         ArchiveWalker(items, &finder).object();
     }
     return finder.picture.toByteArray();
+}
+
+bool beginsLikePicture(QByteArrayView bytes) {
+    using namespace std::string_view_literals;
+    for (const auto start : {"MM\0*"sv, "II*\0"sv, "\x89PNG"sv, "\xff\xd8\xff"sv}) {
+        if (bytes.startsWith(QByteArrayView(start.data(), qsizetype(start.size())))) return true;
+    }
+    return false;
 }
 
 }  // namespace sargan

@@ -72,4 +72,7 @@ private:
     quint32 _index = 0;
 };
 
+/// Whether bytes begin like a TIFF, PNG or JPEG file.
+bool beginsLikePicture(QByteArrayView bytes);
+
 }  // namespace sargan

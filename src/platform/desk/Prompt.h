@@ -23,6 +23,8 @@ public:
     virtual void beep() = 0;
     /// One button, "OK".
     virtual void alert(const QString& text) = 0;
+    /// The same for what went well.
+    virtual void inform(const QString& text) { alert(text); }
     /// The index of the chosen button; the last one when the dialog is closed. Buttons read from the one
     /// that agrees to the one that leaves everything as it is.
     virtual int ask(const QString& text, const QStringList& buttons) = 0;

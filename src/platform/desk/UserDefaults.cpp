@@ -61,25 +61,51 @@ QStringList UserDefaults::keys() const {
 }
 
 void UserDefaults::store(const QString& key, const QJsonValue& value) {
-    if (_stored.contains(key) && _stored.value(key) == value) return;
-    _stored.insert(key, value);
+    storeAll({{key, value}});
+}
+
+void UserDefaults::storeAll(const QJsonObject& values) {
+    takeOver();
+    const QJsonObject before = _stored;
+    for (auto value = values.begin(); value != values.end(); ++value) _stored.insert(value.key(), *value);
+    if (_stored == before) return;
+    ++_version;
     write();
 }
 
 void UserDefaults::remove(const QString& key) {
+    takeOver();
     if (!_stored.contains(key)) return;
     _stored.remove(key);
+    ++_version;
     write();
+}
+
+void UserDefaults::takeOver() {
+    // What could not be written lives in memory only.
+    if (_folder.isEmpty() || !_isReadable || !_problem.isEmpty()) return;
+    const QString file = settingsFile(_folder);
+    if (!QFileInfo::exists(file)) return;
+    try {
+        const QJsonDocument document = QJsonDocument::fromJson(readFile(file));
+        if (!document.isObject() || document.object() == _stored) return;
+        _stored = document.object();
+        ++_version;
+    } catch (const ReadError&) {
+        // What is in memory is then the best that there is.
+    }
 }
 
 void UserDefaults::write() {
     if (_folder.isEmpty() || !_isReadable) return;
+    const bool wasFine = _problem.isEmpty();
     _problem.clear();
     QDir().mkpath(_folder);
     try {
         saveFile(settingsFile(_folder), QJsonDocument(_stored).toJson());
     } catch (const SaveError& error) {
         _problem = error.sentence();
+        if (wasFine && onProblem) onProblem(_problem);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QJsonValue>
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 namespace sargan {
 
@@ -21,6 +22,8 @@ public:
     const QString& folder() const { return _folder; }
     /// What went wrong when the settings were read or last written, as a sentence; empty when nothing did.
     const QString& problem() const { return _problem; }
+    /// Called when the settings could not be written, the first time in a row.
+    std::function<void(const QString&)> onProblem;
 
     /// Stored, else registered, else undefined.
     QJsonValue value(const QString& key) const;
@@ -28,9 +31,16 @@ public:
     QJsonValue registered(const QString& key) const { return _registered.value(key); }
     bool contains(const QString& key) const { return !value(key).isUndefined(); }
     QStringList keys() const;  ///< of both layers, sorted
+    /// Another number after every change, for those who keep what they have read; never 0.
+    quint64 version() const { return _version; }
 
-    void registerDefault(const QString& key, const QJsonValue& value) { _registered.insert(key, value); }
+    void registerDefault(const QString& key, const QJsonValue& value) {
+        _registered.insert(key, value);
+        ++_version;
+    }
     void store(const QString& key, const QJsonValue& value);
+    /// Many at once: all of them are in the file, or none.
+    void storeAll(const QJsonObject& values);
     void remove(const QString& key);
 
     /// Loose readings, as a settings store gives them: booleans from numbers and words, numbers from texts
@@ -42,6 +52,8 @@ public:
     QStringList list(const QString& key) const;
 
 private:
+    /// Another program of this person may have stored something since: its values are kept.
+    void takeOver();
     void write();
 
     QString _folder;
@@ -49,6 +61,7 @@ private:
     QString _problem;
     QJsonObject _stored;
     QJsonObject _registered;
+    quint64 _version = 1;
 };
 
 }  // namespace sargan

@@ -26,7 +26,7 @@ void Document::takeFile(const QString& path, const ReadResult& file) {
     try {
         readBytes(file.bytes, _kind.currentTypeName(_desk));
     } catch (const ArchiveError& error) {
-        throw DocumentError(QStringLiteral("%1: %2").arg(path, error.sentence()));
+        throw DocumentError(error, path);
     }
     _path = QFileInfo(path).absoluteFilePath();
     _stamp = file.stamp;
@@ -35,8 +35,7 @@ void Document::takeFile(const QString& path, const ReadResult& file) {
 
 void Document::readBytes(const QByteArray& bytes, const QString& type) {
     if (!loadDataRepresentation(bytes, type))
-        throw DocumentError(QStringLiteral("a document of the type \"%1\" was expected, not \"%2\"")
-                                .arg(_kind.currentTypeName(_desk), type));
+        throw documentError(documentproblem::otherType, {_kind.currentTypeName(_desk), type});
     markSaved();
 }
 
@@ -51,17 +50,11 @@ bool Document::readsBack(const QByteArray& bytes) const {
 void Document::saveTo(const QString& path, bool overwriteChanged) {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     const bool ownFile = absolute == _path;
-    if (ownFile && _readOnly)
-        throw DocumentError(
-            QStringLiteral("%1: this document was opened to look at only, so the file was left "
-                           "alone")
-                .arg(path));
+    auto newLock = ownFile ? nullptr : std::make_unique<DocumentLock>(absolute);
+    if (newLock && !newLock->tryLock()) throw documentError(documentproblem::openElsewhere, {}, path);
+    if (ownFile && _readOnly) throw documentError(documentproblem::lookOnly, {}, path);
     const QByteArray bytes = dataRepresentationOfType(_kind.currentTypeName(_desk));
-    if (!readsBack(bytes))
-        throw DocumentError(
-            QStringLiteral("%1: what would be written does not read back as this document, so "
-                           "nothing was written")
-                .arg(path));
+    if (!readsBack(bytes)) throw documentError(documentproblem::notTheSame, {}, path);
     SaveOptions options;
     options.keepBackup = true;
     options.overwriteChanged = overwriteChanged;
@@ -75,23 +68,19 @@ void Document::saveTo(const QString& path, bool overwriteChanged) {
     }
     _path = absolute;
     _readOnly = false;
-    if (!ownFile) {
-        lock = std::make_unique<DocumentLock>(absolute);
-        lock->tryLock();
-    }
+    if (newLock) lock = std::move(newLock);
     markSaved();
     Q_EMIT fileChanged();
 }
 
 void Document::exportTo(const QString& path, const QString& type) {
     const QByteArray bytes = dataRepresentationOfType(type);
-    if (bytes.isNull())
-        throw DocumentError(QStringLiteral("%1: there is no export type \"%2\"").arg(path, type));
+    if (bytes.isNull()) throw documentError(documentproblem::noExport, {type}, path);
     saveFile(QFileInfo(path).absoluteFilePath(), bytes);
 }
 
 void Document::revert() {
-    if (_path.isEmpty()) throw DocumentError(QStringLiteral("the document has never been saved"));
+    if (_path.isEmpty()) throw documentError(documentproblem::neverSaved);
     readFrom(_path);
 }
 

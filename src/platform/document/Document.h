@@ -18,7 +18,7 @@ class TableSource;
 /// What `info` tells of a document.
 struct DocumentSummary {
     QString recordClass;
-    std::optional<qint32> version;  ///< of the record class in the file that was read; none for an empty one
+    std::optional<qint32> version;  ///< of the record class in the file that was read; the current one for an empty file
     qsizetype records = 0;
     QString firstDate;  ///< ISO 8601; empty when no record has a date
     QString lastDate;

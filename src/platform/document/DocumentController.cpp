@@ -5,6 +5,7 @@
 
 #include "platform/archive/ArchiveError.h"
 #include "platform/document/DocumentError.h"
+#include "platform/document/Sentences.h"
 #include "platform/files/DocumentLock.h"
 
 namespace sargan {
@@ -49,18 +50,16 @@ Document* DocumentController::newDocument(const DocumentKind& kind) {
 
 std::unique_ptr<Document> DocumentController::read(const QString& path) const {
     const ReadResult file = readStampedFile(path);
-    const auto withPath = [&](const QString& sentence) {
-        return DocumentError(path + QStringLiteral(": ") + sentence);
-    };
     try {
         const DocumentKind& kind = _kinds.forContent(file.bytes, path);
         auto document = kind.create(kind, _desk);
         document->takeFile(path, file);
         return document;
     } catch (const ArchiveError& error) {
-        throw withPath(error.sentence());
+        throw DocumentError(error, path);
     } catch (const DocumentError& error) {
-        throw withPath(sentenceOf(error));
+        if (error.message().key.isEmpty() || !error.path().isEmpty()) throw;
+        throw DocumentError(error.message(), path);
     }
 }
 
@@ -75,7 +74,7 @@ Document* DocumentController::openDocument(const QString& path) {
         if (!document->path().isEmpty()) noteRecentDocument(document->path());
         return adopt(std::move(document));
     } catch (const std::exception& error) {
-        _desk.prompt.alert(sentenceOf(error));
+        _desk.prompt.alert(sentenceIn(_desk.strings, error));
         return nullptr;
     }
 }

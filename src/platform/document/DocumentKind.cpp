@@ -36,8 +36,7 @@ const DocumentKind& DocumentKinds::forContent(const QByteArray& bytes, const QSt
     const ArchiveHead head = readArchiveHead(bytes);
     if (head.count == 0) return forExtension(path);
     if (const DocumentKind* kind = forRecordClass(head.recordClass)) return *kind;
-    throw DocumentError(QStringLiteral("its records are of the class \"%1\", which is none of this program's")
-                            .arg(head.recordClass));
+    throw documentError(documentproblem::foreignRecords, {head.recordClass});
 }
 
 Selection cleanSelection(Selection rows, qsizetype count) {

@@ -15,8 +15,8 @@ struct Desk;
 
 /// One of the document kinds: how the person, the files and the code know it.
 struct DocumentKind {
-    const char* typeName;   ///< by which load and save dispatch: "Carnet de plongee"
-    bool isLocalised;       ///< whether the type name is a key of the table "Main", looked up when used
+    const char* typeName;  ///< by which load and save dispatch: "Carnet de plongee"
+    bool isLocalised;      ///< whether the type name is a key of the table "Main", looked up when used
     const char* documentClass;
     const char* recordClass;  ///< the class of the records in its archive
     const char* extension;    ///< of its files, without the dot

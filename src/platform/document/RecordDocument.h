@@ -59,8 +59,20 @@ public:
         contentReplaced();
     }
 
+    /// The same as a part of the undo step before it: a slider that is being dragged.
+    void amend(Records<R> records) {
+        _now.records = std::move(records);
+        _now.state = newState();
+        contentReplaced();
+    }
+    /// The same without an undo step and without counting as an edit.
+    void replaceQuietly(Records<R> records) {
+        _now.records = std::move(records);
+        contentReplaced();
+    }
+
     DocumentSummary summary() const override {
-        return {QString::fromLatin1(_class.name), _storedVersion, count(), {}, {}};
+        return {QString::fromLatin1(_class.name), _storedVersion.value_or(_class.version), count(), {}, {}};
     }
 
     QJsonObject dump() const override {

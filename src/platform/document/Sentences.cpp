@@ -1,4 +1,4 @@
-#include "app/Sentences.h"
+#include "platform/document/Sentences.h"
 
 #include "platform/document/DocumentError.h"
 #include "platform/files/SafeFile.h"
@@ -24,6 +24,10 @@ QString sentenceIn(const Strings& strings, const std::exception& error) {
         return translated(strings, save->message());
     if (const auto* read = dynamic_cast<const ReadError*>(&error))
         return translated(strings, read->message());
+    if (const auto* document = dynamic_cast<const DocumentError*>(&error))
+        if (!document->message().key.isEmpty())
+            return DocumentError::onOneLine(
+                DocumentError::withPath(document->path(), translated(strings, document->message())));
     return sentenceOf(error);
 }
 

@@ -23,6 +23,7 @@ enum class ControlKind : char {
     Slider,   ///< a whole number between two bounds
     Caption,  ///< a text that the program shows and nobody types
     Image,    ///< a picture's bytes
+    Gauge,    ///< a bar that the program fills, per cent
     Color,    ///< a colour well
 };
 
@@ -66,7 +67,8 @@ struct ControlState {
     QList<TextRun> runs;   ///< Caption: the text in pieces of several colours; empty for one colour
     int tag = 0;           ///< PopUp: tag; Switch: 0 or 1; Slider: value
     Moment date;           ///< Date, Time
-    QByteArray image;      ///< Image: bytes as they were given
+    QByteArray image;      ///< Image: bytes as they were given; empty but not null for one that nobody can read
+    double level = 0;      ///< Gauge: per cent, also beyond the ends
     QColor color;          ///< Color: the well; others: text colour, invalid for the default
     bool enabled = true;
     bool hidden = false;

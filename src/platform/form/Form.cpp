@@ -1,6 +1,8 @@
 #include "platform/form/Form.h"
 
 #include "platform/files/SafeFile.h"
+#include "platform/form/ColorText.h"
+#include "platform/form/PictureBytes.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/Strings.h"
 
@@ -11,6 +13,12 @@ namespace {
 constexpr bool isTyped(ControlKind kind) {
     return kind == ControlKind::Text || kind == ControlKind::Number || kind == ControlKind::Area ||
            kind == ControlKind::Combo || kind == ControlKind::Caption;
+}
+
+QByteArray pictureIn(const QString& control, const QByteArray& bytes) {
+    const QByteArray picture = pictureBytesOf(bytes);
+    if (picture.isNull()) throw ControlValueError(control, QStringLiteral("the file is no picture"));
+    return picture;
 }
 
 int wholeNumber(const QString& control, const QString& text) {
@@ -25,7 +33,16 @@ int wholeNumber(const QString& control, const QString& text) {
 Form::Form(std::span<const ControlSpec> specs, QObject* parent)
     : QObject(parent), _specs(specs.begin(), specs.end()), _states(specs.size()) {
     _index.reserve(qsizetype(specs.size()) * 2);
-    for (int i = 0; i < count(); ++i) _index.insert(QString::fromLatin1(spec(i).name), i);
+    _names.reserve(specs.size());
+    for (int i = 0; i < count(); ++i) {
+        _index.insert(QString::fromLatin1(spec(i).name), i);
+        _names.emplace(spec(i).name, i);
+    }
+}
+
+int Form::operator[](ControlName name) const {
+    const auto found = _names.find(name.text);
+    return found == _names.end() ? find(QString::fromLatin1(name.text)) : found->second;
 }
 
 int Form::find(QStringView name) const {
@@ -93,7 +110,14 @@ void Form::setDate(int control, const Moment& date) {
 }
 
 void Form::setImage(int control, const QByteArray& bytes) {
-    assign(control, &ControlState::image, bytes);
+    ControlState& held = _states[std::size_t(control)];
+    if (held.image == bytes && held.image.isNull() == bytes.isNull()) return;
+    held.image = bytes;
+    Q_EMIT changed(control);
+}
+
+void Form::setLevel(int control, double percent) {
+    assign(control, &ControlState::level, percent);
 }
 
 void Form::setColor(int control, const QColor& color) {
@@ -112,6 +136,7 @@ void Form::fill(int control, const QString& value) {
     const QString name = QString::fromLatin1(spec(control).name);
     switch (spec(control).kind) {
         case ControlKind::Caption:
+        case ControlKind::Gauge:
             throw ControlValueError(name, QStringLiteral("is shown only, it takes no value"));
         case ControlKind::Date:
         case ControlKind::Time: {
@@ -136,10 +161,10 @@ void Form::fill(int control, const QString& value) {
             break;
         }
         case ControlKind::Image:
-            setImage(control, value.isEmpty() ? QByteArray() : readFile(value));
+            setImage(control, value.isEmpty() ? QByteArray() : pictureIn(name, readFile(value)));
             break;
         case ControlKind::Color: {
-            const QColor color = QColor::fromString(value);
+            const QColor color = colorFromText(value);
             if (!color.isValid())
                 throw ControlValueError(name, QStringLiteral("\"%1\" is not a colour").arg(value));
             setColor(control, color);
@@ -184,6 +209,8 @@ QString Form::shownText(int control, const Strings& strings) const {
         case ControlKind::Image:
         case ControlKind::Color:
             return {};
+        case ControlKind::Gauge:
+            return fillFormat(u"%.0f %%", std::array<FormatArgument, 1>{shown.level});
         default:
             return shown.text;
     }

@@ -3,6 +3,8 @@
 #include <QHash>
 #include <QObject>
 #include <functional>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/form/Control.h"
@@ -33,7 +35,7 @@ public:
 
     /// The control with this name or alias. Throws UnknownControlError.
     int find(QStringView name) const;
-    int operator[](ControlName name) const { return find(QString::fromLatin1(name.text)); }
+    int operator[](ControlName name) const;
     /// Another name under which `find` knows a control.
     void addAlias(const QString& alias, int control) { _index.insert(alias, control); }
 
@@ -55,6 +57,7 @@ public:
     void setTag(int control, int tag);
     void setDate(int control, const Moment& date);
     void setImage(int control, const QByteArray& bytes);
+    void setLevel(int control, double percent);
     void setColor(int control, const QColor& color);
     void setEnabled(int control, bool enabled);
     void setHidden(int control, bool hidden);
@@ -99,7 +102,8 @@ private:
 
     std::vector<ControlSpec> _specs;
     std::vector<ControlState> _states;
-    QHash<QString, int> _index;
+    QHash<QString, int> _index;                        ///< names and aliases
+    std::unordered_map<std::string_view, int> _names;  ///< names alone, found without making a QString
     QHash<QString, std::function<void()>> _actions;
     int _focus = -1;
 };

@@ -21,5 +21,7 @@ inline constexpr QColor white{255, 255, 255};
 
 /// "red" for system red and so on; empty for any other colour, also an invalid one.
 QString systemColorName(const QColor& color);
+/// System red for "red" and so on; invalid for any other word.
+QColor systemColorNamed(const QString& name);
 
 }  // namespace sargan

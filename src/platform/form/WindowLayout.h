@@ -7,13 +7,15 @@
 
 namespace sargan {
 
-/// One thing in a row of a window: a control with the words around it, or a button.
+/// One thing in a row of a window: a control with the words around it, or a button, or a control with a
+/// button behind it that is hidden and disabled together with it.
 struct LayoutItem {
     const char* control = nullptr;    ///< a control of the form …
     const char* action = nullptr;     ///< … or a button, by the form's action name
     Message<> label = {nullptr, nullptr};  ///< before a control; on a button or a switch
     Message<> unit = {nullptr, nullptr};   ///< behind a control: "m", "bar"
     int width = 0;                    ///< characters that must fit; 0: as wide as the row allows
+    Message<> button = {nullptr, nullptr};  ///< on the button behind a control
 };
 
 /// Items side by side. The labels of the first items of a section's rows stand in one column.

@@ -34,8 +34,8 @@ void read(ArchiveReader& reader, SlotForm form, Float& value, ArchivedObject&) {
     }
 }
 
-void read(ArchiveReader& reader, SlotForm, Text& value, ArchivedObject& kept) {
-    value = reader.readText(kept);
+void read(ArchiveReader& reader, SlotForm form, Text& value, ArchivedObject& kept) {
+    value = form == SlotForm::OldInt ? QString::number(reader.readInt()) : reader.readText(kept);
 }
 
 void read(ArchiveReader& reader, SlotForm, Date& value, ArchivedObject& kept) {
@@ -69,8 +69,8 @@ void write(ArchiveWriter& writer, SlotForm form, const Float& value) {
     }
 }
 
-void write(ArchiveWriter& writer, SlotForm, const Text& value) {
-    writer.writeText(value);
+void write(ArchiveWriter& writer, SlotForm form, const Text& value) {
+    form == SlotForm::OldInt ? writer.writeInt(value.toInt()) : writer.writeText(value);
 }
 
 void write(ArchiveWriter& writer, SlotForm, const Date& value) {
@@ -90,7 +90,7 @@ void write(ArchiveWriter& writer, SlotForm, const Picture& value) {
 }
 
 char typeCode(SlotForm form, std::size_t memberIndex) {
-    if (memberIndex == 0 || (memberIndex == 1 && form != SlotForm::Plain)) return 'i';
+    if (memberIndex == 0 || form != SlotForm::Plain) return 'i';
     return memberIndex == 1 ? 'f' : '@';
 }
 

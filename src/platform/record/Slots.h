@@ -15,7 +15,7 @@ namespace sargan {
 /// How a slot's archived value relates to its field.
 enum class SlotForm : char {
     Plain,   ///< int32 "i", float32 "f", object "@" by the field's type
-    OldInt,  ///< a float field that was archived as a whole number "i"
+    OldInt,  ///< a float or text field that was archived as a whole number "i"
     Bits,    ///< a float field whose 32-bit pattern is archived as "i", no numeric conversion
 };
 

@@ -60,6 +60,53 @@ private Q_SLOTS:
         QCOMPARE(settingsIn(folder), QJsonObject({{u"a"_s, 2}}));
     }
 
+    void manyValuesAreWrittenTogether() {
+        const Folder folder;
+        UserDefaults defaults(folder.path());
+        defaults.store(u"kept"_s, 1);
+        const quint64 before = defaults.version();
+        defaults.storeAll({{u"a"_s, 2}, {u"b"_s, u"x"_s}});
+        QCOMPARE(defaults.version(), before + 1);
+        QCOMPARE(settingsIn(folder), QJsonObject({{u"kept"_s, 1}, {u"a"_s, 2}, {u"b"_s, u"x"_s}}));
+        defaults.storeAll({{u"a"_s, 2}});
+        QCOMPARE(defaults.version(), before + 1);
+    }
+
+    void whatAnotherProgramStoredIsKept() {
+        const Folder folder;
+        UserDefaults desktop(folder.path());
+        desktop.store(u"a"_s, 1);
+        desktop.store(u"b"_s, 1);
+        UserDefaults command(folder.path());
+        command.store(u"a"_s, 2);
+        command.remove(u"b"_s);
+        desktop.store(u"c"_s, 3);
+        QCOMPARE(settingsIn(folder), QJsonObject({{u"a"_s, 2}, {u"c"_s, 3}}));
+        QCOMPARE(desktop.integer(u"a"_s), 2);
+        command.store(u"d"_s, 4);
+        desktop.remove(u"a"_s);
+        QCOMPARE(settingsIn(folder), QJsonObject({{u"c"_s, 3}, {u"d"_s, 4}}));
+    }
+
+    void aFailedWriteIsToldOnce() {
+        const Folder folder;
+        QVERIFY(::chmod(QFile::encodeName(folder.path()).constData(), 0555) == 0);
+        UserDefaults defaults(folder.path());
+        QStringList told;
+        defaults.onProblem = [&told](const QString& problem) { told << problem; };
+        {
+            const OrdinaryPerson person;
+            defaults.store(u"a"_s, 1);
+            defaults.store(u"b"_s, 2);
+        }
+        QVERIFY(::chmod(QFile::encodeName(folder.path()).constData(), 0755) == 0);
+        QCOMPARE(told.size(), 1);
+        QCOMPARE(told.first(), defaults.problem());
+        defaults.store(u"c"_s, 3);
+        QCOMPARE(told.size(), 1);
+        QCOMPARE(settingsIn(folder).size(), 3);
+    }
+
     void aMissingFolderIsMadeWhenSomethingIsStored() {
         const Folder folder;
         UserDefaults defaults(folder.path(u"deep/er"_s));

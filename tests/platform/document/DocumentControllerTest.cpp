@@ -3,7 +3,6 @@
 
 #include "platform/archive/ArchiveError.h"
 #include "platform/document/DocumentTests.h"
-#include "platform/document/PlainDocument.h"
 #include "platform/files/Folder.h"
 #include "support/Failure.h"
 #include "support/Golden.h"

@@ -9,7 +9,6 @@ int runDocumentControllerTest(int argc, char** argv);
 int runDocumentFileTest(int argc, char** argv);
 int runLockedDocumentTest(int argc, char** argv);
 int runHistoryTest(int argc, char** argv);
-int runPlainDocumentTest(int argc, char** argv);
 int runRecordDocumentTest(int argc, char** argv);
 
 namespace documenttest {
