@@ -4,7 +4,7 @@
 #include "cli/Command.h"
 #include "cli/Session.h"
 #include "platform/print/CommandApplication.h"
-#include "registers/RegisterToolbars.h"
+#include "registers/Register.h"
 
 namespace sargan::cli {
 
@@ -41,21 +41,20 @@ void runCard(Session& session, const Arguments& arguments) {
     writeOutput(output, bytesOf(shown.card(row), document->displayName(), format));
 }
 
-QJsonObject barToJson(const Register& shown, const RegisterToolbar& bar) {
-    const Strings& strings = shown.registerDocument().strings();
+QJsonObject barToJson(const ToolbarState& bar, const Strings& strings) {
     QJsonArray items;
-    for (const ToolbarItem& item : toolbarItems(shown.design(), bar))
-        items.append(QJsonObject{{u"identifier"_s, QLatin1String(item.identifier)},
-                                 {u"label"_s, strings.text(item.look.label)},
-                                 {u"enabled"_s, validateToolbarItem(shown, item.identifier)}});
-    return {{u"identifier"_s, QLatin1String(bar.identifier)}, {u"items"_s, items}};
+    for (const ToolbarItemState& item : bar.items)
+        items.append(QJsonObject{{u"identifier"_s, item.identifier},
+                                 {u"label"_s, strings.text(item.label)},
+                                 {u"enabled"_s, item.enabled}});
+    return {{u"identifier"_s, bar.identifier}, {u"items"_s, items}};
 }
 
 void runToolBars(Session& session, const Arguments& arguments) {
     arguments.atMost(1);
     const auto document = session.read(arguments.at(0, "FILE"));
-    const Register& shown = registerOf(*document);
-    const QJsonArray bars{barToJson(shown, shown.design().listBar), barToJson(shown, shown.design().editBar)};
+    QJsonArray bars;
+    for (const ToolbarState& bar : document->toolbars()) bars.append(barToJson(bar, session.desk().strings));
     if (arguments.has("--json")) return print(QJsonValue(bars));
     for (const QJsonValue& bar : bars) {
         print(bar["identifier"_L1].toString());
@@ -73,7 +72,7 @@ constexpr OptionSpec barOptions[] = {{"--json", Takes::Nothing, "", "as one JSON
 constexpr Command list[] = {
     {"card", "FILE --row N -o OUT.pdf|html|txt", "Writes the synthesis card of a register's record.",
      cardOptions, runCard},
-    {"tool-bars", "FILE [--json]", "Shows a register's toolbars with their items, labels and states.",
+    {"tool-bars", "FILE [--json]", "Shows a document's toolbars with their items, labels and states.",
      barOptions, runToolBars},
 };
 

@@ -4,6 +4,7 @@
 
 #include "logbook/DiveForm.h"
 #include "logbook/DiveTableSource.h"
+#include "logbook/DiveToolbars.h"
 #include "logbook/PlongeeArchive.h"
 #include "platform/document/RecordDocument.h"
 #include "platform/document/RecordEditor.h"
@@ -34,6 +35,7 @@ public:
     QByteArray dataRepresentationOfType(const QString& type) override;
     bool loadDataRepresentation(const QByteArray& bytes, const QString& type) override;
     DocumentSummary summary() const override;
+    QList<ToolbarState> toolbars() const override { return diveToolbars(*this); }
 
     // --- The list; each change is one undo step and marks the document edited ---
 

@@ -5,6 +5,7 @@
 #include "registers/Register.h"
 #include "registers/RegisterDescription.h"
 #include "registers/RegisterSort.h"
+#include "registers/RegisterToolbars.h"
 #include "registers/RegisterWords.h"
 
 namespace sargan {
@@ -76,6 +77,7 @@ public:
         this->select(rows);
         loadSelected();  // also when the selection is the same: the form may have been blanked since
     }
+    QList<ToolbarState> toolbars() const override { return registerToolbars(*this); }
     bool hasCard() const override { return _description.card != nullptr; }
     StyledText card(qsizetype row) const override {
         CardWriter writer(desk(), this->path());

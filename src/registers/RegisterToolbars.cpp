@@ -30,6 +30,18 @@ QList<ToolbarItem> toolbarItems(const RegisterDesign& design, const RegisterTool
     return items;
 }
 
+QList<ToolbarState> registerToolbars(const Register& shown) {
+    QList<ToolbarState> bars;
+    for (const RegisterToolbar* bar : {&shown.design().listBar, &shown.design().editBar}) {
+        ToolbarState state{QLatin1String(bar->identifier), {}};
+        for (const ToolbarItem& item : toolbarItems(shown.design(), *bar))
+            state.items.append({QLatin1String(item.identifier), item.look.label,
+                                validateToolbarItem(shown, item.identifier)});
+        bars.append(state);
+    }
+    return bars;
+}
+
 bool validateToolbarItem(const Register& shown, const char* identifier) {
     const RegisterDesign& design = shown.design();
     const bool needsSomething =

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/document/Toolbar.h"
 #include "registers/Register.h"
 
 namespace sargan {
@@ -18,6 +19,9 @@ struct ToolbarItem {
 
 /// The items that a toolbar shows, in order. An identifier that nothing is made for stays out.
 QList<ToolbarItem> toolbarItems(const RegisterDesign& design, const RegisterToolbar& bar);
+
+/// The toolbars of the register's list and of its form, as they stand now.
+QList<ToolbarState> registerToolbars(const Register& shown);
 
 /// Whether an item is enabled now: while there are records, or while the pick list that the register looks at
 /// has entries.

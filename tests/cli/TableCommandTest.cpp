@@ -236,6 +236,31 @@ private Q_SLOTS:
         QTEST(shop.run(line.split(u' ')).status, "status");
         QCOMPARE(shop.everything(), before);
     }
+
+    void toolbarsShowWhatCanBeUsedWithNothingSelected() {
+        const Workshop shop;
+        shop.putLogbook(u"a.carnet"_s, {});
+        QCOMPARE(shop.run({u"tool-bars"_s, u"a.carnet"_s}).text(),
+                 u"tableViewToolbar\n"
+                 "  addDive: Add\n"
+                 "  deleteDive: Delete (disabled)\n"
+                 "  profil: Profile (disabled)\n"
+                 "  profilData: Profile data (disabled)\n"
+                 "  importUDCF: Import UDCF\n"
+                 "  importUDDF: Import UDDF\n"
+                 "  synthese: Synthesis (disabled)\n"
+                 "  statistics: Statistics\n"
+                 "  rechercher: Find\n"
+                 "editWindowToolbar\n"
+                 "  profil: Profile (disabled)\n"
+                 "  profilData: Profile data (disabled)\n"
+                 "  blankFields: Erase\n"
+                 "  addDiveToList: Store\n"_s);
+        putThree(shop);
+        const QString filled = shop.run({u"tool-bars"_s, u"a.carnet"_s}).text();
+        QVERIFY2(filled.contains(u"  synthese: Synthesis\n"_s), qPrintable(filled));
+        QCOMPARE(filled.count(u"(disabled)"_s), 5);
+    }
 };
 
 int runTableCommandTest(int argc, char** argv) {

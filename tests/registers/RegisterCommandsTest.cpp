@@ -199,7 +199,6 @@ private Q_SLOTS:
         QTest::newRow("no format") << u"card r --row 0 -o c.doc"_s << 2;
         QTest::newRow("no output") << u"card r --row 0"_s << 2;
         QTest::newRow("no register") << u"card dives --row 0 -o c.txt"_s << 1;
-        QTest::newRow("no register's toolbars") << u"tool-bars dives"_s << 1;
     }
     void aCardThatCannotBeWrittenIsOneSentence() {
         QFETCH(QString, command);

@@ -132,7 +132,9 @@ void LogbookWindow::deleteDive() {
 
 void LogbookWindow::editWindow() {
     if (_carnet.selectedRow() < 0) return;
-    if (!_edit) _edit = std::make_unique<DiveEditWindow>(_carnet, QList{_previous, _next, _profil, _profilData}, _shared);
+    if (!_edit)
+        _edit =
+            std::make_unique<DiveEditWindow>(_carnet, QList{_previous, _next, _profil, _profilData}, _shared);
     _edit->openOn(_edit->paneShown());
 }
 
@@ -208,11 +210,9 @@ void LogbookWindow::contentChanged() {
 void LogbookWindow::validate() {
     const bool writable = !_carnet.isReadOnly();
     const qsizetype row = _carnet.selectedRow();
-    _add->setEnabled(writable);
-    _delete->setEnabled(writable && row >= 0);
+    for (QAction* item : {_add, _delete, _profil, _profilData})
+        item->setEnabled(validateToolbarItem(_carnet, item->objectName()));
     _editDive->setEnabled(row >= 0);
-    _profil->setEnabled(row >= 0);
-    _profilData->setEnabled(row >= 0);
     _previous->setEnabled(row > 0);
     _next->setEnabled(row >= 0 && row + 1 < _carnet.count());
     _renumber->setEnabled(writable && _carnet.count() > 0);

@@ -7,6 +7,7 @@
 
 #include "platform/desk/Desk.h"
 #include "platform/document/DocumentKind.h"
+#include "platform/document/Toolbar.h"
 #include "platform/files/SafeFile.h"
 
 namespace sargan {
@@ -78,6 +79,8 @@ public:
     virtual RecordEditor* editor() { return nullptr; }
     /// Its list as a table; null when it has none.
     virtual TableSource* table() { return nullptr; }
+    /// Its windows' toolbars.
+    virtual QList<ToolbarState> toolbars() const { return {}; }
 
     // --- Its edits ---
 

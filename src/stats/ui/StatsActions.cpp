@@ -141,7 +141,8 @@ void StatsActions::refreshReports() {
 }
 
 void StatsActions::validate() {
-    _synthese->setEnabled(_window.carnet().count() > 0);
+    for (QAction* item : {_synthese, _statisticsAction})
+        item->setEnabled(validateToolbarItem(_window.carnet(), item->objectName()));
 }
 
 }  // namespace sargan
