@@ -20,18 +20,18 @@ class Place(NamedTuple):
 
 
 PLACES = {
-    "marseille": Place("Marseille", "France", "FR", "43°12.700' N 005°20.100' E", "Les Palmes du Frioul"),
-    "lavandou": Place("Le Lavandou", "France", "FR", "43°00.300' N 006°24.900' E", "Abyssea Plongée"),
-    "trebeurden": Place("Trébeurden", "France", "FR", "48°46.500' N 003°38.200' W", "Club des Roches Roses", True),
-    "belleile": Place("Belle-Île", "France", "FR", "47°20.900' N 003°09.100' W", "Ar Morgan Plongée", True),
-    "stmalo": Place("Saint-Malo", "France", "FR", "48°42.300' N 002°06.500' W", "Club des Roches Roses", True),
-    "annecy": Place("Lac d’Annecy", "France", "FR", "45°51.600' N 006°10.500' E", "Lac et Bulles", altitude=447),
-    "carriere": Place("Carrière du Moulin", "France", "FR", "47°22.100' N 001°10.300' W", "Les Palmes du Frioul"),
-    "estartit": Place("L’Estartit", "Espagne", "ES", "42°02.900' N 003°13.500' E", "Mar Blau"),
-    "hurghada": Place("Hurghada", "Égypte", "EG", "27°34.800' N 033°55.700' E", "Corail Bleu"),
-    "gozo": Place("Gozo", "Malte", "MT", "36°03.200' N 014°11.300' E", "Calypso Bay Divers"),
-    "scapa": Place("Scapa Flow", "Royaume-Uni", "GB", "58°53.200' N 003°10.900' W", "Hoy Sound Diving", True),
-    "rangiroa": Place("Rangiroa", "Polynésie française", "PF", "14°58.500' S 147°37.800' W", "Tiputa Lagon"),
+    "marseille": Place("Marseille", "France", "FRA", "43°12.700' N 005°20.100' E", "Les Palmes du Frioul"),
+    "lavandou": Place("Le Lavandou", "France", "FRA", "43°00.300' N 006°24.900' E", "Abyssea Plongée"),
+    "trebeurden": Place("Trébeurden", "France", "FRA", "48°46.500' N 003°38.200' W", "Club des Roches Roses", True),
+    "belleile": Place("Belle-Île", "France", "FRA", "47°20.900' N 003°09.100' W", "Ar Morgan Plongée", True),
+    "stmalo": Place("Saint-Malo", "France", "FRA", "48°42.300' N 002°06.500' W", "Club des Roches Roses", True),
+    "annecy": Place("Lac d’Annecy", "France", "FRA", "45°51.600' N 006°10.500' E", "Lac et Bulles", altitude=447),
+    "carriere": Place("Carrière du Moulin", "France", "FRA", "47°22.100' N 001°10.300' W", "Les Palmes du Frioul"),
+    "estartit": Place("L’Estartit", "Espagne", "ESP", "42°02.900' N 003°13.500' E", "Mar Blau"),
+    "hurghada": Place("Hurghada", "Égypte", "EGY", "27°34.800' N 033°55.700' E", "Corail Bleu"),
+    "gozo": Place("Gozo", "Malte", "MLT", "36°03.200' N 014°11.300' E", "Calypso Bay Divers"),
+    "scapa": Place("Scapa Flow", "Royaume-Uni", "GBR", "58°53.200' N 003°10.900' W", "Hoy Sound Diving", True),
+    "rangiroa": Place("Rangiroa", "Polynésie française", "PYF", "14°58.500' S 147°37.800' W", "Tiputa Lagon"),
 }
 
 # The tags of the menus that the dives use.
