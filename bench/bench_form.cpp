@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 
 #include "bench/Measure.h"
-#include "cli/Suite.h"
+#include "bench/QuietDesk.h"
 #include "logbook/Carnet.h"
 #include "platform/desk/Desk.h"
 
@@ -12,25 +12,6 @@ using namespace sargan;
 using namespace sargan::bench;
 
 namespace {
-
-/// A desk that says nothing and keeps nothing.
-struct SilentPrompt : Prompt {
-    void beep() override {}
-    void alert(const QString&) override {}
-    int ask(const QString&, const QStringList& buttons) override { return int(buttons.size()) - 1; }
-    std::unique_ptr<Progress> startProgress(const QString&) override { return {}; }
-};
-
-struct SilentDesk {
-    SilentPrompt prompt;
-    UserDefaults defaults;
-    Strings strings{Strings::Language::English};
-    NotificationCenter notifications;
-    PickLists pickLists{defaults};
-    Desk desk{prompt, defaults, strings, notifications, pickLists, Clock(), Log()};
-    SaveTypes saveTypes;
-    DocumentKinds kinds = makeDocumentKinds(saveTypes);
-};
 
 const QList<std::pair<QString, QString>> typed{
     {QStringLiteral("dateField"), QStringLiteral("2016-06-07T14:30:00")},
@@ -49,7 +30,7 @@ const QList<std::pair<QString, QString>> typed{
 };
 
 void addDives(int dives) {
-    SilentDesk desk;
+    QuietDesk desk;
     Carnet carnet(desk.kinds.standard(), desk.desk, desk.saveTypes);
     Form& form = carnet.form();
     for (int i = 0; i < dives; ++i)
@@ -60,7 +41,7 @@ void addDives(int dives) {
 }
 
 void buildDives(int dives) {
-    SilentDesk desk;
+    QuietDesk desk;
     DiveForm dive(desk.desk);
     for (int i = 0; i < dives; ++i) {
         dive.blankFields();
@@ -84,7 +65,7 @@ void line(const char* what, double seconds, int dives, double floor) {
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const int dives = argc > 1 ? std::atoi(argv[1]) : 1000;
-    SilentDesk desk;
+    QuietDesk desk;
     const Plongee blank = DiveForm(desk.desk).addDiveToList();
     const double copy = bestOf(5, [&] { copyDives(dives, blank); });
     const double build = bestOf(5, [&] { buildDives(dives); });

@@ -10,7 +10,7 @@
 #include <random>
 
 #include "bench/Measure.h"
-#include "cli/Suite.h"
+#include "bench/QuietDesk.h"
 #include "interchange/Formats.h"
 #include "interchange/Import.h"
 #include "platform/files/SafeFile.h"
@@ -20,31 +20,11 @@ using namespace sargan::bench;
 
 namespace {
 
-class SilentPrompt : public Prompt {
-    void beep() override {}
-    void alert(const QString&) override {}
-    int ask(const QString&, const QStringList& buttons) override { return int(buttons.size()) - 1; }
-    std::unique_ptr<Progress> startProgress(const QString&) override { return nullptr; }
-};
-
-struct Bench {
-    SilentPrompt prompt;
-    UserDefaults defaults;
-    Strings strings;
-    NotificationCenter notifications;
-    PickLists pickLists{defaults};
-    Desk desk{prompt, defaults, strings, notifications, pickLists, Clock(), Log()};
-    SaveTypes saveTypes = makeSaveTypes();
-    DocumentKinds kinds = makeDocumentKinds(saveTypes);
-
-    std::unique_ptr<Carnet> logbook() { return std::make_unique<Carnet>(kinds.standard(), desk, saveTypes); }
-};
-
 QByteArray written(const Carnet& carnet, const char* format) {
     return exportFormatNamed(QLatin1String(format))->write(carnet);
 }
 
-void read(Bench& bench, const QByteArray& bytes, const char* format) {
+void read(QuietDesk& bench, const QByteArray& bytes, const char* format) {
     auto carnet = bench.logbook();
     importBytes(*carnet, bytes, *diveReaderNamed(QLatin1String(format)), ImportAlerts::Collected);
     use(carnet->count());
@@ -99,7 +79,7 @@ double peakOf(const QString& work, const QString& file) {
 }
 
 int printPeak(const QString& work, const QString& file) {
-    Bench bench;
+    QuietDesk bench;
     double before = memory("VmHWM");
     if (work == QLatin1String("parse")) {
         const QByteArray bytes = readFile(file);
@@ -118,7 +98,7 @@ int printPeak(const QString& work, const QString& file) {
     return 0;
 }
 
-void measureReading(Bench& bench, const char* format, const QByteArray& bytes, const QString& path) {
+void measureReading(QuietDesk& bench, const char* format, const QByteArray& bytes, const QString& path) {
     constexpr int runs = 3;
     const double size = double(bytes.size());
     const double floor = bestOf(runs, [&] {
@@ -152,7 +132,7 @@ int main(int argc, char** argv) {
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == QLatin1String("--peak"))
         return printPeak(arguments.value(2), arguments.value(3));
-    Bench bench;
+    QuietDesk bench;
     QTemporaryDir folder;
     auto carnet = bench.logbook();
     const bool isFile = QFileInfo(arguments.value(1)).isFile();

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <cstdlib>
 
-#include "cli/Suite.h"
+#include "bench/QuietDesk.h"
 #include "interchange/Formats.h"
 #include "interchange/Import.h"
 #include "interchange/ImportError.h"
@@ -12,24 +12,7 @@
 /// logbook alone. What was read can be saved, read again and exported.
 namespace sargan::fuzz {
 
-class SilentPrompt : public Prompt {
-    void beep() override {}
-    void alert(const QString&) override {}
-    int ask(const QString&, const QStringList& buttons) override { return int(buttons.size()) - 1; }
-    std::unique_ptr<Progress> startProgress(const QString&) override { return nullptr; }
-};
-
-struct Bench {
-    SilentPrompt prompt;
-    UserDefaults defaults;
-    Strings strings;
-    NotificationCenter notifications;
-    PickLists pickLists{defaults};
-    Desk desk{prompt,        defaults,  strings,
-              notifications, pickLists, Clock(QDateTime(QDate(2016, 6, 7), QTime(14, 30))),
-              Log()};
-    SaveTypes saveTypes = makeSaveTypes();
-    DocumentKinds kinds = makeDocumentKinds(saveTypes);
+struct Bench : QuietDesk {
     // Making a logbook costs more than most inputs, so these are emptied and used again.
     Carnet carnet{kinds.standard(), desk, saveTypes};
     Carnet again{kinds.standard(), desk, saveTypes};

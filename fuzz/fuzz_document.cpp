@@ -1,7 +1,7 @@
 #include <QCoreApplication>
 #include <cstdlib>
 
-#include "cli/Suite.h"
+#include "bench/QuietDesk.h"
 #include "platform/archive/ArchiveError.h"
 #include "platform/document/DocumentError.h"
 #include "platform/record/RecordJson.h"
@@ -14,27 +14,7 @@ using namespace sargan;
 
 namespace {
 
-class SilentPrompt : public Prompt {
-    void beep() override {}
-    void alert(const QString&) override {}
-    int ask(const QString&, const QStringList& buttons) override { return int(buttons.size()) - 1; }
-    std::unique_ptr<Progress> startProgress(const QString&) override { return nullptr; }
-};
-
-struct Bench {
-    SilentPrompt prompt;
-    UserDefaults defaults;
-    Strings strings;
-    NotificationCenter notifications;
-    PickLists pickLists{defaults};
-    Desk desk{prompt,        defaults,  strings,
-              notifications, pickLists, Clock(QDateTime(QDate(2016, 6, 7), QTime(14, 30))),
-              Log()};
-    SaveTypes saveTypes = makeSaveTypes();
-    DocumentKinds kinds = makeDocumentKinds(saveTypes);
-};
-
-std::unique_ptr<Document> open(Bench& bench, const QByteArray& bytes) {
+std::unique_ptr<Document> open(QuietDesk& bench, const QByteArray& bytes) {
     const DocumentKind& kind = bench.kinds.forContent(bytes, QStringLiteral("any.carnet"));
     auto document = kind.create(kind, bench.desk);
     document->readBytes(bytes, kind.currentTypeName(bench.desk));
@@ -64,7 +44,7 @@ void walkThroughRegister(Register& shown) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static Bench bench;
+    static QuietDesk bench;
     const QByteArray bytes(reinterpret_cast<const char*>(data), qsizetype(size));
     std::unique_ptr<Document> document;
     try {
@@ -82,6 +62,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const auto again = open(bench, saved);
     if (again->summary().records != document->summary().records) std::abort();
     if (again->dataRepresentationOfType(type) != saved) std::abort();
+    // Forms and cards cost far more than reading; which inputs see them depends on the input alone.
+    if (qHash(bytes, 0) % 32 != 0) return 0;
     if (auto* carnet = qobject_cast<Carnet*>(document.get())) walkThroughForm(*carnet);
     if (auto* list = dynamic_cast<Register*>(document.get())) walkThroughRegister(*list);
     return 0;

@@ -4,6 +4,7 @@
 
 #include "logbook/DiveBlank.h"
 #include "platform/desk/PickListOffer.h"
+#include "platform/form/FieldControl.h"
 #include "profile/ProfileData.h"
 
 namespace sargan {
@@ -15,36 +16,6 @@ std::vector<ControlSpec> specsOfDiveForm() {
     for (const DiveControl& control : diveControls()) specs.push_back(control.spec);
     return specs;
 }
-
-void show(Form& form, int control, Int value) {
-    form.setInteger(control, value);
-}
-void show(Form& form, int control, Float value) {
-    form.setText(control, shortest(value));
-}
-void show(Form& form, int control, const Text& value) {
-    form.setText(control, value);
-}
-void show(Form& form, int control, const Date& value) {
-    form.setDate(control, value);
-}
-void show(Form&, int, const Numbers&) {}
-void show(Form&, int, const Picture&) {}
-
-void take(const Form& form, int control, Int& value) {
-    value = form.integer(control);
-}
-void take(const Form& form, int control, Float& value) {
-    value = Float(form.number(control));
-}
-void take(const Form& form, int control, Text& value) {
-    value = form.text(control);
-}
-void take(const Form& form, int control, Date& value) {
-    value = form.date(control);
-}
-void take(const Form&, int, Numbers&) {}
-void take(const Form&, int, Picture&) {}
 
 void copyProfile(const Plongee& from, Plongee& to) {
     to.setProfilProfondeur(from.profilProfondeur());
@@ -112,7 +83,7 @@ void DiveForm::editFields(const RecordPointer<Plongee>& dive) {
         const auto controls = diveControls();
         for (int i = 0; i < _form.count(); ++i)
             if (const auto* field = controls[std::size_t(i)].field)
-                field->visit(*dive, [&](const auto& value) { show(_form, i, value); });
+                field->visit(*dive, [&](const auto& value) { showField(_form, i, value); });
     }
     setProfile(*dive);
     _loaded = dive;
@@ -144,7 +115,7 @@ Plongee DiveForm::addDiveToList() {
 
 template <class T>
 void DiveForm::takeInto(Plongee& dive, int control, T Plongee::*field) const {
-    take(_form, control, dive.*field);
+    takeField(_form, control, dive.*field);
     // A number that nobody typed over stays as it was to the bit, even when it is infinite or none at all.
     if constexpr (std::is_same_v<T, Float>)
         if (_loaded && _form.text(control) == shortest((*_loaded).*field)) dive.*field = (*_loaded).*field;
