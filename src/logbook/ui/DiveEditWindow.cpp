@@ -9,6 +9,7 @@
 #include <QToolBar>
 
 #include "logbook/DiveLayout.h"
+#include "platform/ui/FittingToolBar.h"
 #include "platform/ui/FormView.h"
 #include "platform/ui/Icons.h"
 #include "platform/ui/Mnemonics.h"
@@ -74,10 +75,8 @@ QAction* DiveEditWindow::button(const char* name, const char* icon, const QStrin
 
 void DiveEditWindow::makeToolbar(const QList<QAction*>& tools) {
     const Strings& strings = _carnet.strings();
-    _bar = addToolBar(strings.ui("Toolbar"));
+    _bar = new FittingToolBar(strings.ui("Toolbar"), Qt::ToolButtonTextUnderIcon, this);
     _bar->setObjectName(u"editWindowToolbar"_s);
-    _bar->setMovable(false);
-    _bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     makePaneButtons();
     _bar->addSeparator();
     for (QAction* tool : tools) tool ? _bar->addAction(tool) : void(_bar->addSeparator());
@@ -108,19 +107,6 @@ void DiveEditWindow::makePaneButtons() {
     connect(_view, &FormView::paneChanged, this,
             [this](int pane) { _panes->actions().at(pane)->setChecked(true); });
     _panes->actions().first()->setChecked(true);
-}
-
-/// In a narrow window the words under the pictures go, rather than the last buttons.
-void DiveEditWindow::fitToolbar() {
-    if (_bar->toolButtonStyle() == Qt::ToolButtonTextUnderIcon) _barWidth = _bar->sizeHint().width();
-    _bar->setToolButtonStyle(width() < _barWidth ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextUnderIcon);
-}
-
-bool DiveEditWindow::event(QEvent* event) {
-    const bool handled = QMainWindow::event(event);
-    const bool isFit = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
-    if (_bar && isFit) fitToolbar();
-    return handled;
 }
 
 void DiveEditWindow::openOn(int pane) {

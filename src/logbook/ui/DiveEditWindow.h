@@ -29,7 +29,6 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    bool event(QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
@@ -37,7 +36,6 @@ private:
     void makePaneButtons();
     QAction* button(const char* name, const char* icon, const QString& text, const QString& tip);
     void restoreSize();
-    void fitToolbar();
     bool focusControl(const char* control);
     void store();
     void blank();
@@ -47,7 +45,6 @@ private:
     Carnet& _carnet;
     FormView* _view;
     QToolBar* _bar = nullptr;
-    int _barWidth = 0;  ///< that the toolbar needs with words under its pictures
     QActionGroup* _panes = nullptr;
     QAction* _store = nullptr;
     QAction* _blank = nullptr;

@@ -10,6 +10,7 @@
 #include "logbook/ui/ProfileGraph.h"
 #include "logbook/ui/RenumberSheet.h"
 #include "logbook/ui/SearchBar.h"
+#include "platform/ui/FittingToolBar.h"
 #include "platform/ui/Icons.h"
 #include "platform/ui/SourceTableView.h"
 
@@ -82,10 +83,8 @@ void LogbookWindow::makeTable() {
 }
 
 void LogbookWindow::makeToolbar() {
-    QToolBar* bar = addToolBar(strings().ui("Toolbar"));
+    auto* bar = new FittingToolBar(strings().ui("Toolbar"), Qt::ToolButtonTextUnderIcon, this);
     bar->setObjectName(u"tableViewToolbar"_s);
-    bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     bar->addActions({_add, _delete, _profil, _profilData});
     _search = new SearchBar(_carnet);
     _search->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);

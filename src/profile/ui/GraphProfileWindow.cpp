@@ -10,6 +10,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "platform/ui/FittingToolBar.h"
 #include "platform/ui/Icons.h"
 #include "profile/ui/ProfilView.h"
 
@@ -47,10 +48,8 @@ GraphProfileWindow::GraphProfileWindow(Desk& desk, std::function<ShownProfil()> 
     setCentralWidget(_view);
     _readOut->setObjectName(u"readOut"_s);
     statusBar()->addWidget(_readOut);
-    _bar = addToolBar(desk.strings.ui("Toolbar"));
+    _bar = new FittingToolBar(desk.strings.ui("Toolbar"), Qt::ToolButtonTextBesideIcon, this);
     _bar->setObjectName(u"profileToolbar"_s);
-    _bar->setMovable(false);
-    _bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     _toolsEnd = _bar->addSeparator();
     addTool("savePicture", "enregistrer", desk.strings.ui("Save Picture…"),
             desk.strings.ui("Save the graph as a picture"), &GraphProfileWindow::askAndSave);

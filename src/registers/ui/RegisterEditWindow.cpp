@@ -7,6 +7,7 @@
 #include <QShortcut>
 #include <QToolBar>
 
+#include "platform/ui/FittingToolBar.h"
 #include "platform/ui/FormView.h"
 #include "platform/ui/Icons.h"
 
@@ -44,10 +45,9 @@ RegisterEditWindow::RegisterEditWindow(Register& shown, const QList<QAction*>& t
 RegisterEditWindow::~RegisterEditWindow() = default;
 
 void RegisterEditWindow::makeToolbar(const QList<QAction*>& tools) {
-    QToolBar* bar = addToolBar(_register.registerDocument().strings().ui("Toolbar"));
+    auto* bar = new FittingToolBar(_register.registerDocument().strings().ui("Toolbar"),
+                                   Qt::ToolButtonTextUnderIcon, this);
     bar->setObjectName(QLatin1String(_register.design().editBar.identifier));
-    bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     makePageButtons(bar);
     bar->addSeparator();
     bar->addActions(tools);

@@ -7,6 +7,7 @@
 
 #include "platform/document/Sentences.h"
 #include "platform/print/TablePages.h"
+#include "platform/ui/FittingToolBar.h"
 #include "platform/ui/Icons.h"
 #include "registers/RegisterToolbars.h"
 #include "registers/ui/RegisterEditWindow.h"
@@ -91,10 +92,8 @@ void RegisterWindow::makeTable() {
 }
 
 void RegisterWindow::makeToolbar() {
-    QToolBar* bar = addToolBar(strings().ui("Toolbar"));
+    auto* bar = new FittingToolBar(strings().ui("Toolbar"), Qt::ToolButtonTextUnderIcon, this);
     bar->setObjectName(QLatin1String(_register.design().listBar.identifier));
-    bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     bar->addActions(toolActions(_register.design().listBar));
     _editTools = toolActions(_register.design().editBar);
 }
