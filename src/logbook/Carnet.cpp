@@ -79,7 +79,8 @@ qsizetype Carnet::addDive(const std::function<void()>& fill) {
     dives.append(std::make_shared<const Plongee>(_diveForm.addDiveToList()));
     const qsizetype row = dives.size() - 1;
     perform(QStringLiteral("Add dive"), std::move(dives), {row});
-    selectLastDive(row, true);
+    _currentIndex = row;
+    Q_EMIT scrollWanted(row);
     return row;
 }
 
