@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs every fuzzer of a fuzz build, one after the other, from the golden archives on:
+# Runs every fuzzer of a fuzz build, one after the other, from the golden archives and its own seeds on:
 #   fuzz.sh BUILD SECONDS          so long each
 #   fuzz.sh BUILD 0 EXECUTIONS     so many inputs each
 set -euo pipefail
@@ -8,10 +8,13 @@ build=$1 seconds=$2 executions=${3:--1}
 
 for program in "$build"/fuzz/fuzz_*; do
     [ -x "$program" ] && [ -f "$program" ] || continue
-    corpus=$build/corpus/$(basename "$program")
+    name=$(basename "$program")
+    corpus=$build/corpus/$name
+    seeds=(tests/data/archives)
+    [ ! -d "fuzz/corpus/${name#fuzz_}" ] || seeds+=("fuzz/corpus/${name#fuzz_}")
     mkdir -p "$corpus"
-    echo "$(basename "$program"): $seconds s, $executions executions" >&2
+    echo "$name: $seconds s, $executions executions" >&2
     QT_QPA_PLATFORM=offscreen "$program" -max_total_time="$seconds" -runs="$executions" -max_len=16384 \
         -timeout=20 -rss_limit_mb=2048 -artifact_prefix="$build/" -print_final_stats=1 \
-        "$corpus" tests/data/archives 2>&1 | grep -vE '^#[0-9]+\s+(NEW|REDUCE|pulse|RELOAD)' >&2
+        "$corpus" "${seeds[@]}" 2>&1 | grep -vE '^#[0-9]+\s+(NEW|REDUCE|pulse|RELOAD)' >&2
 done
