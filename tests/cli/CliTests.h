@@ -12,6 +12,7 @@ int runLoadTest(int argc, char** argv);
 int runLockTest(int argc, char** argv);
 int runNewTest(int argc, char** argv);
 int runOfferTest(int argc, char** argv);
+int runPictureTest(int argc, char** argv);
 int runProfileDataTest(int argc, char** argv);
 int runPromptTest(int argc, char** argv);
 int runRefusedFileTest(int argc, char** argv);

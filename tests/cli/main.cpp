@@ -2,8 +2,9 @@
 #include "support/TestMain.h"
 
 int main(int argc, char** argv) {
-    return runTests(argc, argv,
-                    {runUsageTest, runHelpTest, runGlobalOptionsTest, runNewTest, runInfoTest, runDumpTest,
-                     runLoadTest, runFormTest, runBlankDiveTest, runEditTest, runRowsTest, runPromptTest,
-                     runOfferTest, runProfileDataTest, runSearchTest, runTableCommandTest, runRefusedFileTest, runLockTest});
+    return runTests(
+        argc, argv,
+        {runUsageTest, runHelpTest, runGlobalOptionsTest, runNewTest, runInfoTest, runDumpTest, runLoadTest,
+         runFormTest, runBlankDiveTest, runEditTest, runRowsTest, runPromptTest, runOfferTest, runPictureTest,
+         runProfileDataTest, runSearchTest, runTableCommandTest, runRefusedFileTest, runLockTest});
 }
