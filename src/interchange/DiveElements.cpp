@@ -2,8 +2,10 @@
 
 #include <climits>
 #include <cmath>
+#include <cstdio>
 
 #include "interchange/ImportError.h"
+#include "platform/archive/NumberBatch.h"
 
 namespace sargan::diveelements {
 
@@ -30,10 +32,6 @@ int whole(float value) {
     return int(std::clamp(double(value), double(INT_MIN), double(INT_MAX)));
 }
 
-QString formatted(const Moment& moment, const char* pattern) {
-    return moment.local().toString(QLatin1String(pattern));
-}
-
 QString mixName(const Plongee& dive, const Strings& strings) {
     const QString o2 = QString::number(dive.o2Mix());
     switch (dive.gaz()) {
@@ -48,15 +46,33 @@ QString mixName(const Plongee& dive, const Strings& strings) {
     }
 }
 
-void writeMoments(XmlWriter& xml, const Plongee& dive, const Spelling& spelling) {
+/// Digits of a calendar's part, with zeros in front; an absent moment has empty elements.
+void writePart(XmlWriter& xml, const char* name, int part, int digits) {
+    char text[16];
+    std::snprintf(text, sizeof text, "%0*d", digits, part);
+    xml.element(name, text);
+}
+
+void writeDate(XmlWriter& xml, QDate date, const Spelling& spelling) {
     xml.open(spelling.date);
-    xml.element(spelling.year, formatted(dive.date(), "yyyy"));
-    xml.element(spelling.month, formatted(dive.date(), "MM"));
-    xml.element(spelling.day, formatted(dive.date(), "dd"));
+    if (date.isValid()) {
+        writePart(xml, spelling.year, date.year(), 4);
+        writePart(xml, spelling.month, date.month(), 2);
+        writePart(xml, spelling.day, date.day(), 2);
+    } else {
+        for (const char* name : {spelling.year, spelling.month, spelling.day}) xml.empty(name);
+    }
     xml.close();
+}
+
+void writeTime(XmlWriter& xml, QTime time, const Spelling& spelling) {
     xml.open(spelling.time);
-    xml.element(spelling.hour, formatted(dive.heure(), "HH"));
-    xml.element(spelling.minute, formatted(dive.heure(), "mm"));
+    if (time.isValid()) {
+        writePart(xml, spelling.hour, time.hour(), 2);
+        writePart(xml, spelling.minute, time.minute(), 2);
+    } else {
+        for (const char* name : {spelling.hour, spelling.minute}) xml.empty(name);
+    }
     xml.close();
 }
 
@@ -88,30 +104,49 @@ void checkMarks(const Plongee& dive) {
     }
 }
 
-/// Most lists of marks hold none.
-bool isRaised(const Numbers& marks) {
-    const std::span<const qint32> whole = marks.packed<qint32>();
-    if (!whole.empty()) return std::find(whole.begin(), whole.end(), 1) != whole.end();
-    for (qsizetype i = 0; i < marks.size(); ++i)
-        if (marks.intAt(i) == 1) return true;
-    return false;
+/// What the dives of one file need one after the other.
+struct SampleMemory {
+    double interval = 0;  ///< a dive with an unknown code has that of the dive before it
+    std::vector<double> depths;
+    std::vector<double> marks;   ///< of one list
+    std::vector<quint8> raised;  ///< by sample: one bit for each alarm
+
+    /// Notes which samples of the dive raise which alarms.
+    void takeAlarms(const Plongee& dive) {
+        raised.assign(depths.size(), 0);
+        for (std::size_t alarm = 0; alarm < std::size(alarms); ++alarm) {
+            copyNumbers((dive.*alarms[alarm].list)(), marks);
+            const std::size_t known = std::min(marks.size(), raised.size());
+            for (std::size_t i = 0; i < known; ++i)
+                // What is behind the point does not count.
+                raised[i] |= quint8((marks[i] >= 1 && marks[i] < 2) << alarm);
+        }
+    }
+};
+
+void writeAlarms(XmlWriter& xml, quint8 raised) {
+    for (std::size_t alarm = 0; alarm < std::size(alarms); ++alarm)
+        if (raised >> alarm & 1) xml.element("ALARM", alarms[alarm].word);
 }
 
-void writeSamples(XmlWriter& xml, const Plongee& dive, double interval) {
+void writeSamples(XmlWriter& xml, const Plongee& dive, SampleMemory& memory) {
+    const int code = dive.samplingRate();
+    if (code >= 0 && code < int(std::size(intervals))) memory.interval = intervals[code];
     xml.open("SAMPLES");
-    xml.element("DELTA", interval, 1);
+    xml.element("DELTA", memory.interval, 1);
     xml.element("SWITCH", "1");
     xml.element("D", "0.0");
     checkMarks(dive);
-    const Numbers& depths = dive.profilProfondeur();
-    std::vector<const Alarm*> raised;
-    for (const Alarm& alarm : alarms)
-        if (isRaised((dive.*alarm.list)())) raised.push_back(&alarm);
-    for (qsizetype sample = 0; sample < depths.size(); ++sample) {
-        xml.element("D", depths.at(sample), 1);
-        for (const Alarm* alarm : raised)
-            if ((dive.*alarm->list)().intAt(sample) == 1) xml.element("ALARM", alarm->word);
+    copyNumbers(dive.profilProfondeur(), memory.depths);
+    memory.takeAlarms(dive);
+    XmlLines depths(xml, "D");
+    for (std::size_t sample = 0; sample < memory.depths.size(); ++sample) {
+        depths.add(memory.depths[sample], 1);
+        if (memory.raised[sample] == 0) continue;
+        depths.flush();
+        writeAlarms(xml, memory.raised[sample]);
     }
+    depths.flush();
     xml.element("D", "0.0");
     xml.close();
 }
@@ -132,14 +167,12 @@ void writeAddInfo(XmlWriter& xml, const Carnet& carnet) {
 
 void writeDives(XmlWriter& xml, const Carnet& carnet, const Spelling& spelling) {
     xml.open("REPGROUP");
-    // A dive with an unknown code has the interval of the dive before it.
-    double interval = 0;
+    SampleMemory memory;
     for (const auto& dive : carnet.records()) {
-        const int code = dive->samplingRate();
-        if (code >= 0 && code < int(std::size(intervals))) interval = intervals[code];
         xml.open("DIVE");
         xml.element("PLACE", dive->lieu() + QStringLiteral(" - ") + dive->site());
-        writeMoments(xml, *dive, spelling);
+        writeDate(xml, dive->date().local().date(), spelling);
+        writeTime(xml, dive->heure().local().time(), spelling);
         xml.element("MAXDEPTH", qint64(whole(dive->profondeur())));
         xml.element("DIVETIME", qint64(dive->temps()));
         xml.element("SURFACEINTERVAL", "infinity");
@@ -147,7 +180,7 @@ void writeDives(XmlWriter& xml, const Carnet& carnet, const Spelling& spelling) 
         xml.element("ALTITUDE", qint64(dive->altitude()));
         writeGases(xml, *dive, carnet.strings());
         xml.empty("DELTAMODE");
-        writeSamples(xml, *dive, interval);
+        writeSamples(xml, *dive, memory);
         xml.close();
     }
     xml.close();

@@ -15,7 +15,7 @@ public:
     /// Dives that stand in the file where the format's rules do not look.
     virtual qsizetype passedOver() const { return 0; }
     /// Puts what the file tells of this dive into the blank form; what it does not tell stays blank.
-    virtual void fill(DiveForm& form, qsizetype dive) const = 0;
+    virtual void fill(DiveForm& form, qsizetype dive) = 0;
 };
 
 /// A format that dives can be read from.

@@ -75,10 +75,11 @@ bool HandheldReader::readsSpaceBetweenTags(pugi::xml_node dive) const {
     return xml::isNested(xml::lastChild(dive, "place")) || xml::isNested(xml::lastChild(dive, "site"));
 }
 
-void HandheldReader::fill(DiveForm& form, pugi::xml_node dive) const {
+void HandheldReader::fill(DiveForm& form, pugi::xml_node dive, DiveMemory& memory) const {
     diveimport::setText(form, "lieuField", xml::lastChild(dive, "place"));
     diveimport::setText(form, "siteField", xml::lastChild(dive, "site"));
-    diveimport::setMoments(form, xml::lastChild(dive, "date"), xml::lastChild(dive, "time"), udcfMomentNames);
+    diveimport::setMoments(form, xml::lastChild(dive, "date"), xml::lastChild(dive, "time"), udcfMomentNames,
+                           memory.calendar);
     for (const NumberElement& number : numberElements)
         setNumber(form, number, xml::lastChild(dive, number.element));
     diveimport::setSurfaceInterval(form, xml::lastChild(dive, "surfaceinterval"));

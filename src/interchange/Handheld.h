@@ -13,7 +13,7 @@ public:
     QStringList suffixes() const override;
     bool recognises(const QByteArray& bytes) const override;
     XmlDives divesOf(pugi::xml_node root) const override;
-    void fill(DiveForm& form, pugi::xml_node dive) const override;
+    void fill(DiveForm& form, pugi::xml_node dive, DiveMemory& memory) const override;
     bool readsSpaceBetweenTags(pugi::xml_node dive) const override;
 };
 

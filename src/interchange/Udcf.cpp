@@ -2,6 +2,7 @@
 
 #include <climits>
 #include <cmath>
+#include <cstring>
 
 #include "interchange/DiveElements.h"
 
@@ -18,20 +19,26 @@ struct Rate {
 
 constexpr Rate rates[] = {{10, 0}, {20, 1}, {30, 2}, {60, 3}, {120, 4}, {4, 5}, {1, 6}, {5, 7}};
 
-void fillSamples(DiveForm& form, pugi::xml_node samples) {
-    if (const pugi::xml_node delta = xml::lastChild(samples, "DELTA")) {
-        const int seconds = xml::integer(delta);
-        form.form().setInteger(divecontrol::temps, seconds);
-        for (const Rate& rate : rates)
-            if (rate.seconds == seconds) form.form().setTag(divecontrol::samplingRate, rate.code);
+void setInterval(DiveForm& form, int seconds) {
+    form.form().setInteger(divecontrol::temps, seconds);
+    for (const Rate& rate : rates)
+        if (rate.seconds == seconds) form.form().setTag(divecontrol::samplingRate, rate.code);
+}
+
+void fillSamples(DiveForm& form, pugi::xml_node samples, DiveMemory& memory) {
+    memory.depths.clear();
+    pugi::xml_node delta;
+    for (const pugi::xml_node element : samples) {
+        const char* const name = element.name();
+        if (std::strcmp(name, "D") == 0) memory.depths.push_back(float(xml::number(element)));
+        if (std::strcmp(name, "DELTA") == 0) delta = element;
     }
-    std::vector<float> depths;
-    for (const pugi::xml_node depth : samples.children("D")) depths.push_back(float(xml::number(depth)));
-    if (depths.empty()) return;
-    const double greatest = *std::max_element(depths.begin(), depths.end());
+    if (delta) setInterval(form, xml::integer(delta));
+    if (memory.depths.empty()) return;
+    const double greatest = *std::max_element(memory.depths.begin(), memory.depths.end());
     form.form().setInteger(divecontrol::profondeur,
                            int(std::clamp(greatest, double(INT_MIN), double(INT_MAX))));
-    diveimport::setDepths(form, depths);
+    diveimport::setDepths(form, memory);
 }
 
 void fillGases(DiveForm& form, pugi::xml_node mix) {
@@ -84,14 +91,15 @@ bool UdcfReader::readsSpaceBetweenTags(pugi::xml_node dive) const {
     return xml::isNested(xml::lastChild(dive, "PLACE"));
 }
 
-void UdcfReader::fill(DiveForm& form, pugi::xml_node dive) const {
+void UdcfReader::fill(DiveForm& form, pugi::xml_node dive, DiveMemory& memory) const {
     diveimport::setText(form, "lieuField", xml::lastChild(dive, "PLACE"));
-    diveimport::setMoments(form, xml::lastChild(dive, "DATE"), xml::lastChild(dive, "TIME"), udcfMomentNames);
+    diveimport::setMoments(form, xml::lastChild(dive, "DATE"), xml::lastChild(dive, "TIME"), udcfMomentNames,
+                           memory.calendar);
     diveimport::setUntoldConditions(form);
     diveimport::setText(form, "tempEauField", xml::lastChild(dive, "TEMPERATURE"));
     diveimport::setText(form, "altitudeField", xml::lastChild(dive, "ALTITUDE"));
     diveimport::setSurfaceInterval(form, xml::lastChild(dive, "SURFACEINTERVAL"));
-    fillSamples(form, xml::lastChild(dive, "SAMPLES"));
+    fillSamples(form, xml::lastChild(dive, "SAMPLES"), memory);
     fillGases(form, xml::lastChild(xml::lastChild(dive, "GASES"), "MIX"));
     form.updateUI();
 }

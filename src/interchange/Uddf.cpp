@@ -65,15 +65,15 @@ float depthOf(pugi::xml_node waypoint) {
 }
 
 /// The last waypoint that tells the time says how long the dive was.
-void fillSamples(DiveForm& form, pugi::xml_node samples) {
-    std::vector<float> depths;
-    std::optional<int> seconds;
+void fillSamples(DiveForm& form, pugi::xml_node samples, DiveMemory& memory) {
+    memory.depths.clear();
+    pugi::xml_node seconds;
     for (const pugi::xml_node waypoint : samples.children("waypoint")) {
-        depths.push_back(depthOf(waypoint));
-        if (const pugi::xml_node time = xml::lastChild(waypoint, "divetime")) seconds = xml::integer(time);
+        memory.depths.push_back(depthOf(waypoint));
+        if (const pugi::xml_node time = xml::lastChild(waypoint, "divetime")) seconds = time;
     }
-    diveimport::setDepths(form, depths);
-    if (seconds) form.form().setInteger(divecontrol::temps, *seconds / 60);
+    diveimport::setDepths(form, memory);
+    if (seconds) form.form().setInteger(divecontrol::temps, xml::integer(seconds) / 60);
 }
 
 }  // namespace
@@ -120,14 +120,15 @@ bool UddfReader::readsSpaceBetweenTags(pugi::xml_node dive) const {
     return xml::isNested(xml::lastChild(xml::lastChild(dive, "notes"), "text"));
 }
 
-void UddfReader::fill(DiveForm& form, pugi::xml_node dive) const {
-    diveimport::setMoments(form, xml::lastChild(dive, "date"), xml::lastChild(dive, "time"), momentNames);
+void UddfReader::fill(DiveForm& form, pugi::xml_node dive, DiveMemory& memory) const {
+    diveimport::setMoments(form, xml::lastChild(dive, "date"), xml::lastChild(dive, "time"), momentNames,
+                           memory.calendar);
     diveimport::setUntoldConditions(form);
     setTemperature(form, "tempAirField", xml::lastChild(dive, "airtemperature"));
     setTemperature(form, "tempEauField", xml::lastChild(dive, "lowesttemperature"));
     diveimport::setText(form, "profondeurField", xml::lastChild(dive, "greatestdepth"));
     diveimport::setText(form, "notesField", xml::lastChild(xml::lastChild(dive, "notes"), "text"));
-    fillSamples(form, xml::lastChild(dive, "samples"));
+    fillSamples(form, xml::lastChild(dive, "samples"), memory);
     form.updateUI();
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "interchange/XmlRead.h"
+#include "platform/archive/NumberBatch.h"
 
 namespace sargan {
 
@@ -11,40 +12,40 @@ namespace {
 
 class XmlDiveSource : public DiveSource {
 public:
-    XmlDiveSource(const XmlDiveReader& reader, std::unique_ptr<XmlFile> file, XmlDives dives)
-        : _reader(reader), _file(std::move(file)), _dives(std::move(dives)) {}
+    XmlDiveSource(const XmlDiveReader& reader, const QByteArray& bytes) : _reader(reader), _bytes(bytes) {
+        parse(SpaceBetweenTags::Dropped);
+    }
 
     qsizetype count() const override { return qsizetype(_dives.dives.size()); }
     qsizetype passedOver() const override { return _dives.passedOver; }
-    void fill(DiveForm& form, qsizetype dive) const override {
-        _reader.fill(form, _dives.dives[std::size_t(dive)]);
+    void fill(DiveForm& form, qsizetype dive) override {
+        const auto at = std::size_t(dive);
+        // Few files need their white space, and it is most of a tree.
+        if (_space == SpaceBetweenTags::Dropped && _reader.readsSpaceBetweenTags(_dives.dives[at]))
+            parse(SpaceBetweenTags::Kept);
+        _reader.fill(form, _dives.dives[at], _memory);
     }
 
 private:
+    void parse(SpaceBetweenTags space) {
+        _space = space;
+        _file.reset();
+        _file = std::make_unique<XmlFile>(_bytes, space);
+        _dives = _reader.divesOf(_file->root());
+    }
+
     const XmlDiveReader& _reader;
+    QByteArray _bytes;
+    SpaceBetweenTags _space = SpaceBetweenTags::Dropped;
     std::unique_ptr<XmlFile> _file;
     XmlDives _dives;
+    DiveMemory _memory;
 };
-
-NumberArray floatsOf(const std::vector<float>& values) {
-    NumberArray list = NumberArray::empty();
-    for (const float value : values) list.appendFloat(value);
-    return list;
-}
 
 }  // namespace
 
 std::unique_ptr<DiveSource> XmlDiveReader::open(const QByteArray& bytes) const {
-    auto file = std::make_unique<XmlFile>(bytes, SpaceBetweenTags::Dropped);
-    XmlDives dives = divesOf(file->root());
-    const bool needsSpace = std::any_of(dives.dives.begin(), dives.dives.end(),
-                                        [this](pugi::xml_node dive) { return readsSpaceBetweenTags(dive); });
-    if (needsSpace) {
-        file.reset();
-        file = std::make_unique<XmlFile>(bytes, SpaceBetweenTags::Kept);
-        dives = divesOf(file->root());
-    }
-    return std::make_unique<XmlDiveSource>(*this, std::move(file), std::move(dives));
+    return std::make_unique<XmlDiveSource>(*this, bytes);
 }
 
 void addChildren(pugi::xml_node element, const char* name, std::vector<pugi::xml_node>& children) {
@@ -53,12 +54,13 @@ void addChildren(pugi::xml_node element, const char* name, std::vector<pugi::xml
 
 namespace diveimport {
 
-void setMoments(DiveForm& form, pugi::xml_node date, pugi::xml_node time, const xml::MomentNames& names) {
+void setMoments(DiveForm& form, pugi::xml_node date, pugi::xml_node time, const xml::MomentNames& names,
+                xml::Calendar& calendar) {
     const auto set = [&form](ControlName control, const Moment& moment) {
         if (moment.isPresent()) form.form().setDate(form.form()[control], moment);
     };
-    set(divecontrol::date, xml::day(date, names));
-    set(divecontrol::heure, xml::timeOfDay(time, names));
+    set(divecontrol::date, calendar.day(date, names));
+    set(divecontrol::heure, calendar.timeOfDay(time, names));
 }
 
 void setUntoldConditions(DiveForm& form) {
@@ -68,14 +70,16 @@ void setUntoldConditions(DiveForm& form) {
     form.form().setTag(ControlName{"typePlongeePopUp"}, 13);
 }
 
-void setDepths(DiveForm& form, const std::vector<float>& depths) {
+void setDepths(DiveForm& form, DiveMemory& memory) {
+    const std::vector<float>& depths = memory.depths;
     if (depths.empty()) return;
-    const NumberArray noMarks = floatsOf(std::vector<float>(depths.size()));
+    if (memory.noMarks.size() != qsizetype(depths.size()))
+        memory.noMarks = arrayOfFloats(std::vector<float>(depths.size()));
     Plongee lists = form.working();
-    lists.setProfilProfondeur(floatsOf(depths));
+    lists.setProfilProfondeur(arrayOfFloats(depths));
     for (auto set : {&Plongee::setASC_Flag, &Plongee::setSLOW_Flag, &Plongee::setCEIL_Flag,
                      &Plongee::setSURF_Flag, &Plongee::setGAZ_Flag})
-        (lists.*set)(noMarks);
+        (lists.*set)(memory.noMarks);
     form.setProfile(lists);
 }
 

@@ -59,32 +59,53 @@ QString text(pugi::xml_node element) {
     return whole.empty() ? QStringLiteral("") : QString::fromUtf8(whole.data(), qsizetype(whole.size()));
 }
 
-double leadingNumber(std::string_view text) {
-    std::size_t at = 0;
-    while (at < text.size() && std::strchr(" \t\r\n", text[at]) && text[at]) ++at;
-    std::size_t end = at + (at < text.size() && text[at] == '-' ? 1 : 0);
-    const std::size_t digits = end;
-    while (end < text.size() && isDigit(text[end])) ++end;
-    if (end > digits && end < text.size() && text[end] == '.')
-        for (++end; end < text.size() && isDigit(text[end]);) ++end;
-    const bool isPlain = end > digits && (end == text.size() || !std::strchr(",eE", text[end]));
-    if (!isPlain) return sargan::leadingNumber(QString::fromUtf8(text.data(), qsizetype(text.size())));
-    double value = 0;
-    const auto result = std::from_chars(text.data() + at, text.data() + end, value);
-    if (result.ec == std::errc()) return value;
-    return sargan::leadingNumber(QString::fromUtf8(text.data(), qsizetype(text.size())));
+namespace {
+
+constexpr double powersOfTen[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7};
+
+/// A number as files have it by the thousand, "-12.25" and not much longer: digits as a whole number over a
+/// power of ten, both exact, so that the quotient is the nearest double. Nothing when it is any other.
+std::optional<double> shortNumber(const char* text) {
+    constexpr int mostDigits = 15, mostDecimals = int(std::size(powersOfTen)) - 1;
+    const bool isNegative = *text == '-';
+    if (isNegative) ++text;
+    const char* const first = text;
+    qint64 digits = 0;
+    int decimals = 0;
+    // Counted while it is read, so that no text can run over.
+    const auto take = [&] {
+        const char* const start = text;
+        for (; isDigit(*text) && text - first <= mostDigits; ++text) digits = digits * 10 + (*text - '0');
+        return int(text - start);
+    };
+    if (take() == 0) return std::nullopt;
+    if (*text == '.') {
+        ++text;
+        decimals = take();
+    }
+    const bool isWhole = *text == '\0' && text - first <= mostDigits && decimals <= mostDecimals;
+    if (!isWhole) return std::nullopt;
+    const double value = double(digits) / powersOfTen[decimals];
+    return isNegative ? -value : value;
+}
+
+}  // namespace
+
+double leadingNumber(const char* text) {
+    if (const auto number = shortNumber(text)) return *number;
+    return sargan::leadingNumber(QString::fromUtf8(text));
 }
 
 double number(pugi::xml_node element) {
     if (!element.first_child()) return leadingNumber(element.value());
-    return leadingNumber(wholeText(element));
+    return leadingNumber(wholeText(element).c_str());
 }
 
 int integer(pugi::xml_node element) {
     return leadingInteger(text(element));
 }
 
-Moment day(pugi::xml_node element, const MomentNames& names) {
+Moment Calendar::day(pugi::xml_node element, const MomentNames& names) {
     const auto year = part(element, names.year);
     const auto month = part(element, names.month);
     const auto day = part(element, names.day);
@@ -95,18 +116,26 @@ Moment day(pugi::xml_node element, const MomentNames& names) {
     const auto within = [](std::optional<int> value) {
         return std::clamp(value.value_or(1), -farthest, farthest) - 1;
     };
-    return Moment::fromDateTime(
-        inLocalTime(start.addMonths(within(month)).addDays(within(day)), QTime(0, 0)));
+    const QDate date = start.addMonths(within(month)).addDays(within(day));
+    if (date != _lastDay || !date.isValid()) {
+        _lastDay = date;
+        _midnight = Moment::fromDateTime(inLocalTime(date, QTime(0, 0)));
+    }
+    return _midnight;
 }
 
-Moment timeOfDay(pugi::xml_node element, const MomentNames& names) {
+Moment Calendar::timeOfDay(pugi::xml_node element, const MomentNames& names) {
     const auto hour = part(element, names.hour);
     const auto minute = part(element, names.minute);
     if (!hour && !minute) return {};
     constexpr qint64 minutesOfDay = 24 * 60;
     const qint64 minutes = qint64(hour.value_or(0)) * 60 + minute.value_or(0);
     const qint64 ofDay = (minutes % minutesOfDay + minutesOfDay) % minutesOfDay;
-    return Moment::fromDateTime(inLocalTime(QDate(2001, 1, 1), QTime(int(ofDay / 60), int(ofDay % 60))));
+    _minutes.resize(minutesOfDay);
+    Moment& known = _minutes[std::size_t(ofDay)];
+    if (!known.isPresent())
+        known = Moment::fromDateTime(inLocalTime(QDate(2001, 1, 1), QTime(int(ofDay / 60), int(ofDay % 60))));
+    return known;
 }
 
 }  // namespace sargan::xml

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
 #include <pugixml.hpp>
 #include <string>
+#include <vector>
 
 #include "platform/archive/Moment.h"
 
@@ -20,7 +22,7 @@ bool isNested(pugi::xml_node element);
 
 /// The leading number of the element's whole text, comma or point; 0 when there is none.
 double number(pugi::xml_node element);
-double leadingNumber(std::string_view text);
+double leadingNumber(const char* text);
 /// The leading whole number, within int32; 0 when there is none.
 int integer(pugi::xml_node element);
 
@@ -33,11 +35,21 @@ struct MomentNames {
     const char* minute;
 };
 
-/// Local midnight of the year, month and day that the element's children tell; a month 13 is the next
-/// January, as on any calendar, and a part that is missing the first of its kind. Absent when the element
-/// tells none of them or a date outside the years 1 to 9999.
-Moment day(pugi::xml_node element, const MomentNames& names);
-/// The same for hour and minute, on 1 January 2001.
-Moment timeOfDay(pugi::xml_node element, const MomentNames& names);
+/// Days and times of day that a file tells. It remembers what it was asked: a day has several dives, and a
+/// day has 1440 minutes, while the system's calendar is slow.
+class Calendar {
+public:
+    /// Local midnight of the year, month and day that the element's children tell; a month 13 is the next
+    /// January, as on any calendar, and a part that is missing the first of its kind. Absent when the element
+    /// tells none of them or a date outside the years 1 to 9999.
+    Moment day(pugi::xml_node element, const MomentNames& names);
+    /// The same for hour and minute, on 1 January 2001.
+    Moment timeOfDay(pugi::xml_node element, const MomentNames& names);
+
+private:
+    QDate _lastDay;
+    Moment _midnight;              ///< of the last day
+    std::vector<Moment> _minutes;  ///< by minute of the day; absent until asked for
+};
 
 }  // namespace sargan::xml

@@ -10,8 +10,8 @@ namespace sargan {
 
 namespace {
 
-/// Room for any double with a few decimals, for the names of elements, and for tabs in front of them.
-constexpr std::size_t longestNumber = 400, longestName = 40, deepest = 40;
+/// Room for any double with a few decimals.
+constexpr std::size_t longestNumber = 400;
 
 constexpr bool isXmlCharacter(char32_t c) {
     if (c < 0x20) return c == '\t' || c == '\n' || c == '\r';
@@ -124,23 +124,38 @@ void XmlWriter::element(const char* name, qint64 number) {
     end(name);
 }
 
-/// Samples are most of a file, so their lines are put together before the bytes grow.
 void XmlWriter::element(const char* name, double number, int decimals) {
-    char line[longestNumber + 2 * longestName + deepest];
-    char* at = std::fill_n(line, _open.size(), '\t');
-    *at++ = '<';
-    at = std::copy_n(name, std::strlen(name), at);
-    *at++ = '>';
-    at = writeFixed(at, at + longestNumber, number, decimals);
-    at = std::copy_n("</", 2, at);
-    at = std::copy_n(name, std::strlen(name), at);
-    at = std::copy_n(">\n", 2, at);
-    _bytes.append(line, qsizetype(at - line));
+    start(name);
+    appendFixed(_bytes, number, decimals);
+    end(name);
 }
 
 void XmlWriter::empty(const char* name) {
     indent();
     _bytes.append('<').append(name).append(" />\n");
+}
+
+XmlLines::XmlLines(XmlWriter& xml, const char* name) : _bytes(xml._bytes) {
+    const auto keep = [](const QByteArray& tag, char* kept) {
+        Q_ASSERT(tag.size() <= qsizetype(longestTag));
+        std::fill_n(kept, longestTag, ' ');
+        return std::size_t(std::copy(tag.begin(), tag.end(), kept) - kept);
+    };
+    _startSize = keep(QByteArray(qsizetype(xml._open.size()), '\t') + '<' + name + '>', _start);
+    _endSize = keep(QByteArray("</") + name + ">\n", _end);
+}
+
+void XmlLines::add(double number, int decimals) {
+    if (_size + 2 * longestTag + longestNumber > room) flush();
+    char* at = std::copy_n(_start, longestTag, _lines + _size) - longestTag + _startSize;
+    at = writeFixed(at, at + longestNumber, number, decimals);
+    std::copy_n(_end, longestTag, at);
+    _size = std::size_t(at - _lines) + _endSize;
+}
+
+void XmlLines::flush() {
+    _bytes.append(_lines, qsizetype(_size));
+    _size = 0;
 }
 
 }  // namespace sargan

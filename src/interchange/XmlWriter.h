@@ -25,12 +25,38 @@ public:
     void empty(const char* name);
 
 private:
+    friend class XmlLines;
     void indent();
     void start(const char* name);
     void end(const char* name);
 
     QByteArray& _bytes;
     std::vector<const char*> _open;
+};
+
+/// Many elements of one name, each with a number: the samples, which are most of a file. Their lines are put
+/// together before the bytes grow.
+class XmlLines {
+public:
+    /// A short name, not deep in the tree: tag and tabs have 32 characters.
+    XmlLines(XmlWriter& xml, const char* name);
+    ~XmlLines() { flush(); }
+    XmlLines(const XmlLines&) = delete;
+    XmlLines& operator=(const XmlLines&) = delete;
+
+    void add(double number, int decimals);
+    /// Hands on what is put together so far, before something else is written.
+    void flush();
+
+private:
+    static constexpr std::size_t room = 4096, longestTag = 32;
+
+    QByteArray& _bytes;
+    /// The tags, padded: copying a size that is known beforehand takes one move.
+    char _start[longestTag], _end[longestTag];
+    std::size_t _startSize, _endSize;
+    char _lines[room];
+    std::size_t _size = 0;
 };
 
 /// Appends the number with this many decimals, rounded as "%.*f" does.

@@ -13,7 +13,7 @@ Desk deskWithPrompt(const Desk& desk, Prompt& prompt) {
 DiveBatch::DiveBatch(Carnet& carnet, Prompt& prompt)
     : _carnet(carnet),
       _desk(deskWithPrompt(carnet.desk(), prompt)),
-      _form(_desk),
+      _form(_desk, DiveFormUse::Batch),
       _dives(carnet.records()),
       _before(_dives.size()) {}
 

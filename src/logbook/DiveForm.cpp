@@ -27,9 +27,41 @@ void copyProfile(const Plongee& from, Plongee& to) {
     to.setPRESS_Data(from.PRESS_Data());
 }
 
+/// Gives a control back the value that it once had.
+void restore(Form& form, int control, const ControlState& state) {
+    switch (form.spec(control).kind) {
+        case ControlKind::Date:
+        case ControlKind::Time:
+            return form.setDate(control, state.date);
+        case ControlKind::PopUp:
+        case ControlKind::Switch:
+        case ControlKind::Slider:
+            return form.setTag(control, state.tag);
+        default:
+            return form.setText(control, state.text);
+    }
+}
+
 }  // namespace
 
-DiveForm::DiveForm(Desk& desk) : _desk(desk), _form(specsOfDiveForm()) {
+/// The blank form of a batch, the dive that it makes, and what was changed since the form was blank: a file
+/// tells of a dozen controls in nearly two hundred.
+struct DiveForm::Prepared {
+    std::vector<ControlState> states;
+    Plongee dive;
+    std::vector<int> changed;
+    std::vector<bool> isChanged;  ///< by control
+
+    void note(int control) {
+        if (isChanged[std::size_t(control)]) return;
+        isChanged[std::size_t(control)] = true;
+        changed.push_back(control);
+    }
+};
+
+DiveForm::~DiveForm() = default;
+
+DiveForm::DiveForm(Desk& desk, DiveFormUse use) : _desk(desk), _form(specsOfDiveForm()) {
     const auto controls = diveControls();
     for (int i = 0; i < _form.count(); ++i)
         if (controls[std::size_t(i)].field)
@@ -47,12 +79,32 @@ DiveForm::DiveForm(Desk& desk) : _desk(desk), _form(specsOfDiveForm()) {
     refreshOn({o2Mix, heMix, o2Mix2, heMix2}, &DiveForm::updateNitrogen);
     refreshOn({o2Mix, temps, profondeur}, &DiveForm::updateCns);
     refreshOn({difficulte}, &DiveForm::updateSlider);
-    connect(&_form, &Form::changed, this, [this](int control) {
-        if (_isLoading) return;
-        for (const Refresh refresh : std::as_const(_refreshes[std::size_t(control)])) (this->*refresh)();
-    });
+    connect(&_form, &Form::changed, this, &DiveForm::controlChanged);
     _form.onEndEditing = [this](int control) { endEditing(control); };
     blankFields();
+    if (use == DiveFormUse::Batch) prepareBlank();
+}
+
+void DiveForm::controlChanged(int control) {
+    if (_prepared) return _prepared->note(control);
+    if (_isLoading) return;
+    for (const Refresh refresh : std::as_const(_refreshes[std::size_t(control)])) (this->*refresh)();
+}
+
+void DiveForm::prepareBlank() {
+    auto prepared = std::make_unique<Prepared>();
+    for (int i = 0; i < _form.count(); ++i) prepared->states.push_back(_form.state(i));
+    prepared->isChanged.resize(prepared->states.size());
+    prepared->dive = builtDive();
+    _prepared = std::move(prepared);
+}
+
+void DiveForm::backToBlank() {
+    for (const int control : _prepared->changed)
+        restore(_form, control, _prepared->states[std::size_t(control)]);
+    for (const int control : _prepared->changed) _prepared->isChanged[std::size_t(control)] = false;
+    _prepared->changed.clear();
+    copyProfile(_prepared->dive, _working);
 }
 
 void DiveForm::refreshOn(std::initializer_list<ControlName> controls, Refresh refresh) {
@@ -65,13 +117,14 @@ void DiveForm::endEditing(int control) {
 }
 
 void DiveForm::blankFields() {
+    _loaded.reset();
+    if (_prepared) return backToBlank();
     {
         const QScopedValueRollback loading(_isLoading, true);
         fillBlankDive(_form, _desk);
     }
     _working = Plongee();
     profilArraysDefaultContent();
-    _loaded.reset();
     updateUI();
     _form.setFocus(_form[divecontrol::plongeeNo]);
     Q_EMIT diveShown();
@@ -93,6 +146,7 @@ void DiveForm::editFields(const RecordPointer<Plongee>& dive) {
 
 void DiveForm::setProfile(const Plongee& lists) {
     copyProfile(lists, _working);
+    if (_prepared) return;
     _deepest = profile::greatest(_working.profilProfondeur());
     if (!_isLoading) updateCns();
 }
@@ -103,11 +157,22 @@ Plongee DiveForm::addDiveToList() {
     checkOxygen(divecontrol::o2Mix2);
     checkHelium(divecontrol::heMix);
     checkHelium(divecontrol::heMix2);
+    return builtDive();
+}
+
+Plongee DiveForm::builtDive() const {
     Plongee dive;
     const auto controls = diveControls();
-    for (int i = 0; i < _form.count(); ++i)
-        if (const auto* field = controls[std::size_t(i)].field)
-            std::visit([&](auto at) { takeInto(dive, i, at); }, field->member);
+    const auto take = [&](int control) {
+        if (const auto* field = controls[std::size_t(control)].field)
+            std::visit([&](auto at) { takeInto(dive, control, at); }, field->member);
+    };
+    if (_prepared && !_loaded) {
+        dive = _prepared->dive;
+        for (const int control : _prepared->changed) take(control);
+    } else {
+        for (int i = 0; i < _form.count(); ++i) take(i);
+    }
     copyProfile(_working, dive);
     keepUnknownObjects(dive);
     return dive;
@@ -122,6 +187,7 @@ void DiveForm::takeInto(Plongee& dive, int control, T Plongee::*field) const {
 }
 
 void DiveForm::updateUI() {
+    if (_prepared) return;
     updateSlider();
     updateNitrogen();
     calcDeltaPressure();

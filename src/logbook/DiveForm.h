@@ -19,13 +19,22 @@ struct DiveFigures {
     double cns = 0;  ///< per cent of the oxygen limit
 };
 
+/// What a dive form is there for.
+enum class DiveFormUse : char {
+    Shown,  ///< a person sees it, so its captions follow what it holds
+    /// Many dives are built, each from a blank form, and nobody sees the captions: they stay as they are.
+    /// The blank form is made once, so settings and the clock count as they stood then.
+    Batch,
+};
+
 /// The edit form of one dive, without a display. Every dive is created and changed through it: by the
 /// person, by importers and by the command line alike.
 class DiveForm : public QObject {
     Q_OBJECT
 
 public:
-    explicit DiveForm(Desk& desk);
+    explicit DiveForm(Desk& desk, DiveFormUse use = DiveFormUse::Shown);
+    ~DiveForm() override;
 
     Form& form() { return _form; }
     const Form& form() const { return _form; }
@@ -64,6 +73,11 @@ Q_SIGNALS:
 
 private:
     using Refresh = void (DiveForm::*)();
+    struct Prepared;
+    void controlChanged(int control);
+    void prepareBlank();
+    void backToBlank();
+    Plongee builtDive() const;
     void refreshOn(std::initializer_list<ControlName> controls, Refresh refresh);
     void endEditing(int control);
     void setMix(int o2, int he);
@@ -81,6 +95,7 @@ private:
     float _deepest = 0;              ///< of the working samples
     DiveFigures _figures;
     std::vector<QList<Refresh>> _refreshes;  ///< by control: what depends on it
+    std::unique_ptr<Prepared> _prepared;     ///< the blank form of a batch; null for a form that is shown
     bool _isLoading = false;                 ///< all controls change; the captions follow once
 };
 

@@ -1,3 +1,4 @@
+#include <QRandomGenerator>
 #include <QSignalSpy>
 
 #include "interchange/ImportError.h"
@@ -6,6 +7,7 @@
 #include "logbook/DiveBatch.h"
 #include "platform/document/Sentences.h"
 #include "platform/files/Folder.h"
+#include "platform/record/RecordJson.h"
 #include "support/Failure.h"
 
 using namespace sargan;
@@ -220,6 +222,42 @@ private Q_SLOTS:
     void runsOfNumbersAreShort() {
         QFETCH(QList<int>, numbers);
         QTEST(numberList(numbers), "text");
+    }
+
+    /// A batch makes its blank form once and looks only at what was filled in. Nobody may see that.
+    void aBatchBuildsWhatTheFormOnScreenBuilds() {
+        QRandomGenerator random(20160607);
+        for (int round = 0; round < 200; ++round) {
+            _book = std::make_unique<Book>();
+            const quint32 seed = random.generate();
+            const auto fillSome = [](DiveForm& dive, QRandomGenerator& chosen) {
+                Form& form = dive.form();
+                for (int times = chosen.bounded(12); times > 0; --times) {
+                    const int control = chosen.bounded(form.count());
+                    const ControlKind kind = form.spec(control).kind;
+                    if (kind == ControlKind::Date || kind == ControlKind::Time)
+                        form.setDate(control, Moment::fromSeconds(chosen.bounded(1000000)));
+                    else
+                        form.setInteger(control, chosen.bounded(-3, 300));
+                }
+                if (chosen.bounded(2) == 0) return;
+                Plongee lists = dive.working();
+                lists.setProfilProfondeur(NumberArray::ofDoubles(std::array{0.0, chosen.bounded(40.0)}));
+                dive.setProfile(lists);
+            };
+            QRandomGenerator first(seed), second(seed);
+            for (int i = 0; i < 4; ++i) carnet().addDive([&] { fillSome(carnet().diveForm(), first); });
+            Records<Plongee> dives = carnet().records();
+            while (carnet().count() > 0) carnet().undo();
+            DiveBatch batch(carnet(), _book->desk.prompt);
+            for (int i = 0; i < 4; ++i) batch.add([&](DiveForm& form) { fillSome(form, second); });
+            batch.commit();
+            QCOMPARE(carnet().count(), dives.size());
+            for (int i = 0; i < 4; ++i)
+                QCOMPARE(recordToJson<Plongee>(*carnet().records()[i], PlongeeFields::all),
+                         recordToJson<Plongee>(*dives[i], PlongeeFields::all));
+            _book->desk.prompt.finish();
+        }
     }
 
     void aBatchThatIsDroppedLeavesTheLogbook() {

@@ -5,7 +5,7 @@
 #include "ArchiveTests.h"
 #include "Assemble.h"
 #include "platform/archive/ArchiveReader.h"
-#include "platform/archive/NumberArray.h"
+#include "platform/archive/NumberBatch.h"
 
 using namespace sargan;
 using namespace Qt::StringLiterals;
@@ -24,6 +24,7 @@ class NumberArrayTest : public QObject {
 private Q_SLOTS:
     void absentIsNotEmpty();
     void numbersOfOneKindArePacked();
+    void listsAreMadeAndTakenInOneGo();
     void kindsMayDiffer();
     void oddBytesAreNotBooleans();
     void valuesBecomeIntegersByTruncation_data();
@@ -72,6 +73,37 @@ void NumberArrayTest::numbersOfOneKindArePacked() {
     QCOMPARE(flags.packed<bool>()[99], true);
     QCOMPARE(flags.packed<bool>()[98], false);
     QCOMPARE(flags.at(99), 1.0);
+}
+
+void NumberArrayTest::listsAreMadeAndTakenInOneGo() {
+    const NumberArray floats = arrayOfFloats(std::array{1.5F, -2.0F, 0.25F});
+    QCOMPARE(floats.packed<float>().size(), 3U);
+    QCOMPARE(floats.packed<float>()[2], 0.25F);
+    QVERIFY(arrayOfFloats({}) == NumberArray::empty());
+    NumberArray longer = floats;
+    longer.appendFloat(7);
+    QCOMPARE(longer.size(), 4);
+    QCOMPARE(longer.at(3), 7.0);
+    QCOMPARE(floats.size(), 3);
+
+    NumberArray mixed = NumberArray::ofInts(std::array{3, -4});
+    std::vector<double> values{9, 9, 9, 9};
+    copyNumbers(mixed, values);
+    QCOMPARE(values, (std::vector<double>{3, -4}));
+    mixed.append(0.125);
+    mixed.appendRawBool(-1);
+    mixed.appendKept(someObject());
+    copyNumbers(mixed, values);
+    QCOMPARE(values.size(), 5U);
+    QCOMPARE(values[2], 0.125);
+    QCOMPARE(values[3], -1.0);
+    QVERIFY(std::isnan(values[4]));
+    copyNumbers(floats, values);
+    QCOMPARE(values, (std::vector<double>{1.5, -2, 0.25}));
+    copyNumbers(NumberArray::ofDoubles(std::array{1e300}), values);
+    QCOMPARE(values, std::vector<double>{1e300});
+    copyNumbers(NumberArray(), values);
+    QVERIFY(values.empty());
 }
 
 void NumberArrayTest::kindsMayDiffer() {
