@@ -19,33 +19,47 @@ constexpr std::array<const char*, counterCount> keys = {
     "prof_3",       "prof_4",   "prof_5",    "prof_6", "prof_7",
 };
 
-/// By typePlongee. 2 and 4 count in no activity: "tek" goes by the configuration.
-constexpr std::array<std::size_t, 15> activities = {EpavesCount, Explo,     none,    Photo,    none,
-                                                    Speleo,      Video,     Travail, Autre,    Derivante,
-                                                    Glace,       Formation, Bio,     Carriere, Recuperation};
-
-/// By rebreather.
-constexpr std::array<std::size_t, 5> apparatus = {OpenCircuit, SemiClosed, ClosedCircuit, ClosedCircuit,
-                                                  ClosedCircuit};
-
+/// What a code counts as. The last entry is for all codes that the table does not know: dives follow no
+/// pattern, so every branch on their codes would cost a wrong guess.
 template <std::size_t size>
 std::size_t entry(const std::array<std::size_t, size>& table, qint32 code) {
-    return quint32(code) < size ? table[quint32(code)] : none;
+    return table[std::min<std::size_t>(quint32(code), size - 1)];
 }
+
+/// By typePlongee. 2 and 4 count in no activity: "tek" goes by the configuration.
+constexpr std::array<std::size_t, 16> activities = {
+    EpavesCount, Explo,     none,  Photo,     none, Speleo,   Video,        Travail,
+    Autre,       Derivante, Glace, Formation, Bio,  Carriere, Recuperation, none};
+
+/// By rebreather.
+constexpr std::array<std::size_t, 6> apparatus = {OpenCircuit,   SemiClosed,    ClosedCircuit,
+                                                  ClosedCircuit, ClosedCircuit, none};
 
 /// The order of the tests is the rule: whatever is left over counts as heliox, a semi-closed rebreather on
 /// air included.
-std::size_t gasFamily(qint32 gas, qint32 rebreather) {
+constexpr std::size_t gasFamily(std::size_t gas, std::size_t rebreather) {
     if (gas == 0 && (rebreather < 1 || rebreather > 4)) return AirCount;
     if (gas == 2 || gas == 4 || gas == 5) return TrimixCount;
     if (gas == 1 || (rebreather >= 2 && rebreather <= 4)) return NitroxCount;
     return HelioxCount;
 }
 
+/// By gaz, and for each gas by rebreather; the last of both stand for the codes beyond.
+constexpr auto gasFamilies = [] {
+    std::array<std::array<std::size_t, apparatus.size()>, 7> families{};
+    for (std::size_t gas = 0; gas < families.size(); ++gas)
+        for (std::size_t rebreather = 0; rebreather < apparatus.size(); ++rebreather)
+            families[gas][rebreather] = gasFamily(gas, rebreather);
+    return families;
+}();
+
+std::size_t gasFamilyOf(qint32 gas, qint32 rebreather) {
+    return entry(gasFamilies[std::min<std::size_t>(quint32(gas), gasFamilies.size() - 1)], rebreather);
+}
+
+/// By ten metres; what is less than none is in the first class, 60 m and more in the last.
 std::size_t depthClass(qint32 depth) {
-    if (depth <= 9) return Prof_1;
-    if (depth < 60) return std::size_t(Prof_1) + std::size_t(depth / 10);
-    return Prof_7;
+    return std::size_t(Prof_1) + std::size_t(std::clamp(depth, 0, 60) / 10);
 }
 
 qint32 truncated(float value) {
@@ -76,7 +90,7 @@ public:
         _counts[Tek] += dive.configuration() == 1;
         const qint32 rebreather = dive.rebreather();
         ++_counts[entry(apparatus, rebreather)];
-        ++_counts[gasFamily(dive.gaz(), rebreather)];
+        ++_counts[gasFamilyOf(dive.gaz(), rebreather)];
         addDepth(truncated(dive.profondeur()));
         _time += dive.temps();
         _totals.longest = std::max(_totals.longest, dive.temps());
@@ -102,10 +116,10 @@ private:
     }
     void addTemperature(qint32 water) {
         _totals.warmest = std::max(_totals.warmest, water);
-        if (water == noTemperature) return;
-        _temperatures += water;
-        ++_measured;
-        _totals.coldest = std::min(_totals.coldest, water);
+        const bool isMeasured = water != noTemperature;
+        _temperatures += isMeasured ? water : 0;
+        _measured += isMeasured;
+        _totals.coldest = std::min(_totals.coldest, isMeasured ? water : INT32_MAX);
     }
 
     StatisticsTotals _totals;

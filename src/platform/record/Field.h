@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <variant>
 
+#include "platform/record/FieldGroups.h"
 #include "platform/record/Record.h"
 
 namespace sargan {

@@ -8,7 +8,12 @@ public:
 #include SARGAN_FIELDS
 #undef FIELD
 
+// Numbers lie in front, side by side: statistics ask every dive for a dozen of them, and the memory hands out
+// neighbours together.
 private:
-#define FIELD(type, name, setter) type _##name{};
+#define FIELD(type, name, setter) SARGAN_NUMBER_FIELD(type, type _##name{};)
+#include SARGAN_FIELDS
+#undef FIELD
+#define FIELD(type, name, setter) SARGAN_OBJECT_FIELD(type, type _##name{};)
 #include SARGAN_FIELDS
 #undef FIELD
