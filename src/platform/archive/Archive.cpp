@@ -1,8 +1,6 @@
 #include "platform/archive/ArchiveTables.h"
 #include "platform/archive/ArchiveWalker.h"
 
-using namespace Qt::StringLiterals;
-
 namespace sargan {
 
 Archive::Archive() : _tables(std::make_unique<Tables>()) {}
@@ -14,10 +12,10 @@ std::shared_ptr<const Archive> Archive::read(QByteArray bytes) {
     archive->_tables->bytes = std::move(bytes);
     ItemReader items(*archive->_tables);
     items.header();
-    items.groupOf('@', "the root object");
+    items.groupOf('@', "the root object"_words);
     const qint64 offset = items.at.offset();
     const ObjectHead head = items.objectHead();
-    if (head.what == ObjectHead::Reference) failArchive(offset, "the root object", u"a reference"_s);
+    if (head.what == ObjectHead::Reference) failArchive(offset, "the root object"_words, "a reference"_words);
     NumberRun run(items);
     if (head.what == ObjectHead::New) ArchiveWalker(items, run).contents(head);
     archive->_tables->root = head.index;
@@ -47,9 +45,10 @@ ArchiveHead readArchiveHead(const QByteArray& bytes) {
     found.rootClass = QString::fromUtf8(tables.classAt(items.rootArray().cls).name);
     found.count = quint32(items.takeCount(ClassFamily::Array));
     if (found.count == 0) return found;
-    items.groupOf('@', "the first element");
+    items.groupOf('@', "the first element"_words);
     const ObjectHead first = items.objectHead();
-    if (first.what != ObjectHead::New) failArchive(first.offset, "the first element", u"no new object"_s);
+    if (first.what != ObjectHead::New)
+        failArchive(first.offset, "the first element"_words, "no new object"_words);
     const ClassInfo info = tables.classAt(first.cls);
     found.recordClass = QString::fromUtf8(info.name);
     found.version = info.version;

@@ -6,21 +6,34 @@ namespace sargan {
 
 namespace {
 
-QString composeSentence(qint64 offset, const QString& problem, const QString& slot) {
-    const QString sentence = u"byte %1: %2"_s.arg(QString::number(offset), problem);
-    return slot.isEmpty() ? sentence : u"%1 (%2)"_s.arg(sentence, slot);
+ArchivePhrase problemOf(const ArchivePhrase& expected, const ArchivePhrase& found, const QString& slot) {
+    const ArchivePhrase problem("expected %@, found %@"_words, {expected, found});
+    return slot.isEmpty() ? problem : ArchivePhrase("%@ (%@)"_words, {problem, slot});
+}
+
+QString sentenceOf(qint64 offset, const ArchivePhrase& problem) {
+    return u"byte %1: %2"_s.arg(QString::number(offset), problem.text());
 }
 
 }  // namespace
 
-ArchiveError::ArchiveError(qint64 offset, QString problem, QString slot)
-    : std::runtime_error(composeSentence(offset, problem, slot).toStdString()),
+ArchiveError::ArchiveError(qint64 offset, ArchivePhrase expected, ArchivePhrase found, QString slot)
+    : std::runtime_error(sentenceOf(offset, problemOf(expected, found, slot)).toStdString()),
       _offset(offset),
-      _problem(std::move(problem)),
+      _expected(std::move(expected)),
+      _found(std::move(found)),
       _slot(std::move(slot)) {}
 
+QString ArchiveError::problem() const {
+    return problemOf(_expected, _found, {}).text();
+}
+
+QString ArchiveError::detail(const ArchivePhrase::Translation& translation) const {
+    return problemOf(_expected, _found, _slot).text(translation);
+}
+
 QString ArchiveError::sentence() const {
-    return composeSentence(_offset, _problem, _slot);
+    return sentenceOf(_offset, problemOf(_expected, _found, _slot));
 }
 
 }  // namespace sargan

@@ -23,7 +23,7 @@ public:
         try {
             return read();
         } catch (const ArchiveError& error) {
-            throw ArchiveError(error.offset(), error.problem(), place());
+            throw error.in(place());
         }
     }
 
@@ -76,8 +76,8 @@ void ArchiveReader::Impl::requireRecordClass(quint32 cls, const char* className,
     const bool rooted = info.super != noIndex && _items.entry(info.super).family() == ClassFamily::Object &&
                         _items.entry(cls).chainLength() == 2;
     if (info.name != className || !rooted) {
-        failArchive(offset, u"an object of class %1 : NSObject"_s.arg(QString::fromUtf8(className)),
-                    u"one of class %1"_s.arg(QString::fromUtf8(info.name)));
+        failArchive(offset, {"an object of class %@ : NSObject"_words, {QString::fromUtf8(className)}},
+                    {"one of class %@"_words, {ArchivePhrase::name(info.name)}});
     }
     _recordClass = cls;
     _recordClassName = className;
@@ -90,15 +90,17 @@ ArchiveReader::Element ArchiveReader::Impl::beginElement(const char* className) 
     _inRecord = true;
     ++_begun;
     if (_begun > _count) {
-        failArchive(_items.at.offset(), u"%1 elements"_s.arg(_count), u"a call for one more"_s);
+        failArchive(_items.at.offset(), {"%@ elements"_words, {_count}}, "a call for one more"_words);
     }
-    _items.groupOf('@', "an element of the root array");
+    _items.groupOf('@', "an element of the root array"_words);
     const ObjectHead head = _items.objectHead();
-    if (head.what == ObjectHead::Nil) failArchive(head.offset, "an element of the root array", u"nil"_s);
+    if (head.what == ObjectHead::Nil)
+        failArchive(head.offset, "an element of the root array"_words, "nil"_words);
     if (head.what == ObjectHead::Reference) {
         const auto earlier = std::lower_bound(_records.begin(), _records.end(), head.index);
         if (earlier == _records.end() || *earlier != head.index) {
-            failArchive(head.offset, "an element of the root array", u"a reference to another object"_s);
+            failArchive(head.offset, "an element of the root array"_words,
+                        "a reference to another object"_words);
         }
         requireRecordClass(_items.tables().classOfObject(head.index), className, head.offset);
         _inRecord = false;
@@ -120,7 +122,7 @@ void ArchiveReader::Impl::endElement() {
 
 void ArchiveReader::Impl::endRootArray() {
     if (_begun != _count) {
-        failArchive(_items.at.offset(), u"%1 elements"_s.arg(_count), u"%1"_s.arg(_begun));
+        failArchive(_items.at.offset(), {"%@ elements"_words, {_count}}, _begun);
     }
     _items.objectEnd(_root, _rootHeight + 1);
     _archive->_tables->root = _root.index;
@@ -157,14 +159,14 @@ void ArchiveReader::atSlot(const char* name) {
 
 qint32 ArchiveReader::readInt() {
     return _impl->located([&] {
-        _impl->items().groupOf('i', "an integer");
-        return _impl->items().at.takeInt32("an integer");
+        _impl->items().groupOf('i', "an integer"_words);
+        return _impl->items().at.takeInt32("an integer"_words);
     });
 }
 
 float ArchiveReader::readFloat() {
     return _impl->located([&] {
-        _impl->items().groupOf('f', "a number");
+        _impl->items().groupOf('f', "a number"_words);
         return _impl->items().at.takeFloat();
     });
 }

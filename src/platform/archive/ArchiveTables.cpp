@@ -31,7 +31,7 @@ constexpr KnownClass knownClasses[] = {
 };
 
 quint32 referenceIndex(ByteCursor& at) {
-    return quint32(at.takeSigned("a reference") - archivetag::referenceBase);
+    return quint32(at.takeSigned("a reference"_words) - archivetag::referenceBase);
 }
 
 }  // namespace
@@ -45,22 +45,22 @@ ClassFamily knownFamily(QByteArrayView className) {
 
 QByteArrayView Archive::Tables::stringAt(quint32 index) const {
     ByteCursor at = cursorAt(qint64(strings[index] & ~checkedType));
-    const quint64 length = at.takeUnsigned("a length");
-    return at.takeBytes(length, "a string");
+    const quint64 length = at.takeUnsigned("a length"_words);
+    return at.takeBytes(length, "a string"_words);
 }
 
 ClassInfo Archive::Tables::classAt(quint32 index) const {
     ByteCursor at = cursorAt(objects[index].offset() + 1);
     ClassInfo info;
-    if (at.peek("a class name") == archivetag::newItem) {
-        at.take("a class name");
-        const quint64 length = at.takeUnsigned("a length");
-        info.name = at.takeBytes(length, "a class name");
+    if (at.peek("a class name"_words) == archivetag::newItem) {
+        at.take("a class name"_words);
+        const quint64 length = at.takeUnsigned("a length"_words);
+        info.name = at.takeBytes(length, "a class name"_words);
     } else {
         info.name = stringAt(referenceIndex(at));
     }
-    info.version = at.takeInt32("a class version");
-    const uchar head = at.peek("a class");
+    info.version = at.takeInt32("a class version"_words);
+    const uchar head = at.peek("a class"_words);
     if (head == archivetag::newItem) {
         info.super = index + 1;
     } else if (head != archivetag::nil) {
@@ -71,7 +71,7 @@ ClassInfo Archive::Tables::classAt(quint32 index) const {
 
 quint32 Archive::Tables::classOfObject(quint32 index) const {
     ByteCursor at = cursorAt(objects[index].offset() + 1);
-    return at.peek("a class") == archivetag::newItem ? index + 1 : referenceIndex(at);
+    return at.peek("a class"_words) == archivetag::newItem ? index + 1 : referenceIndex(at);
 }
 
 }  // namespace sargan

@@ -3,8 +3,6 @@
 #include <QUtf8StringView>
 #include <limits>
 
-using namespace Qt::StringLiterals;
-
 namespace sargan {
 
 namespace {
@@ -71,7 +69,8 @@ int ArchiveWalker::objectAfterHead(const ObjectHead& head) {
 }
 
 int ArchiveWalker::contents(const ObjectHead& head) {
-    if (++_depth > mostNestedObjects) failArchive(head.offset, "at most 256 nested objects", u"more"_s);
+    if (++_depth > mostNestedObjects)
+        failArchive(head.offset, "at most 256 nested objects"_words, "more"_words);
     ValueSink* const sink = _sink;
     if (!sink->beginObject(head.index, head.cls)) _sink = &ignoringSink();
     const ObjectEntry cls = _items.entry(head.cls);
@@ -160,28 +159,28 @@ void ArchiveWalker::classValue() {
 void ArchiveWalker::textValue(char code) {
     const QByteArrayView text = code == '+'   ? _items.unsharedText()
                                 : code == '*' ? _items.cString()
-                                              : _items.sharedText("a selector", true);
+                                              : _items.sharedText("a selector"_words, true);
     text.isNull() ? _sink->nil(code) : _sink->bytes(code, text);
 }
 
 void ArchiveWalker::simpleInteger(char code) {
     const qint64 offset = _items.at.offset();
-    if (code == 'c') return _sink->integer(code, qint8(_items.at.take("a byte")));
-    if (code == 'C' || code == 'B') return _sink->integer(code, _items.at.take("a byte"));
+    if (code == 'c') return _sink->integer(code, qint8(_items.at.take("a byte"_words)));
+    if (code == 'C' || code == 'B') return _sink->integer(code, _items.at.take("a byte"_words));
     const bool isSigned = code >= 'a';
     qint64 value = 0;
     bool fits = false;
     if (isSigned) {
-        value = _items.at.takeSigned("an integer");
+        value = _items.at.takeSigned("an integer"_words);
         fits = value >= signedRange(code).least && value <= signedRange(code).most;
     } else {
-        const quint64 wide = _items.at.takeUnsigned("an integer");
+        const quint64 wide = _items.at.takeUnsigned("an integer"_words);
         fits = wide <= unsignedMost(code);
         value = qint64(wide);
     }
     if (!fits) {
-        failArchive(offset, u"an integer that fits type \"%1\""_s.arg(QLatin1Char(code)),
-                    isSigned ? QString::number(value) : QString::number(quint64(value)));
+        failArchive(offset, {"an integer that fits type \"%@\""_words, {QString(QLatin1Char(code))}},
+                    isSigned ? ArchivePhrase(value) : ArchivePhrase(quint64(value)));
     }
     _sink->integer(code, value);
 }
@@ -191,12 +190,12 @@ int ArchiveWalker::arrayValue(TypeCursor& type) {
     const qsizetype element = type.place();
     int height = 0;
     if (type.atBytes()) {
-        _sink->bytes('[', _items.at.takeBytes(length, "a byte array"));
+        _sink->bytes('[', _items.at.takeBytes(length, "a byte array"_words));
         type.skipItem();
     } else {
         if (length > quint64(_items.at.left())) {
-            failArchive(_items.at.offset(), u"an array of %1 elements"_s.arg(length),
-                        u"%1 bytes left"_s.arg(_items.at.left()));
+            failArchive(_items.at.offset(), {"an array of %@ elements"_words, {length}},
+                        {"%@ bytes left"_words, {_items.at.left()}});
         }
         _sink->beginList();
         if (length == 0) type.skipItem();
@@ -235,12 +234,12 @@ int ArchiveWalker::numberGroups(FoundNumber& number) {
 }
 
 QByteArrayView ArchiveWalker::text() {
-    _items.groupOf('+', "a text");
+    _items.groupOf('+', "a text"_words);
     const qint64 offset = _items.at.offset();
     const QByteArrayView text = _items.unsharedText();
-    if (text.isNull()) failArchive(offset, "a text", describeByte(archivetag::nil));
+    if (text.isNull()) failArchive(offset, "a text"_words, describeByte(archivetag::nil));
     if (!QUtf8StringView(text.data(), text.size()).isValidUtf8()) {
-        failArchive(offset, "a text in UTF-8", u"other bytes"_s);
+        failArchive(offset, "a text in UTF-8"_words, "other bytes"_words);
     }
     _sink->beginGroup("+");
     _sink->bytes('+', text);
@@ -250,7 +249,7 @@ QByteArrayView ArchiveWalker::text() {
 
 int ArchiveWalker::collectionGroups(ClassFamily family) {
     const char code = family == ClassFamily::Set ? 'I' : 'i';
-    _items.groupOf(code, "the count of a collection");
+    _items.groupOf(code, "the count of a collection"_words);
     const quint64 elements = _items.takeCount(family);
     _sink->beginGroup(QByteArrayView(&code, 1));
     _sink->integer(code, qint64(family == ClassFamily::Dictionary ? elements / 2 : elements));
@@ -266,10 +265,10 @@ int ArchiveWalker::collectionGroups(ClassFamily family) {
 int ArchiveWalker::element() {
     const uchar* const group = _items.at.at();
     const quint32 strings = _items.tables().strings.size();
-    _items.groupOf('@', "an element of a collection");
+    _items.groupOf('@', "an element of a collection"_words);
     const ObjectHead head = _items.objectHead();
     if (head.what == ObjectHead::Nil) {
-        failArchive(head.offset, "an element of a collection", describeByte(archivetag::nil));
+        failArchive(head.offset, "an element of a collection"_words, describeByte(archivetag::nil));
     }
     _sink->beginGroup("@");
     const int height = objectAfterHead(head);

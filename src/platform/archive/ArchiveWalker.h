@@ -66,7 +66,9 @@ private:
     int numberGroups(FoundNumber& number);
     int collectionGroups(ClassFamily family);
     int element();
-    bool atEndOfObject() { return _items.at.peek("a group or the end of an object") == archivetag::end; }
+    bool atEndOfObject() {
+        return _items.at.peek("a group or the end of an object"_words) == archivetag::end;
+    }
 
     ItemReader& _items;
     ValueSink* _sink;

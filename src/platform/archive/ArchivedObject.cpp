@@ -144,7 +144,7 @@ QString ArchivedObject::asText() const {
     ItemReader items(tables, _index);
     const ObjectHead head = items.objectHead();
     if (items.entry(head.cls).family() != ClassFamily::String) return {};
-    items.groupOf('+', "a text");
+    items.groupOf('+', "a text"_words);
     const QByteArrayView text = items.unsharedText();
     return QString::fromUtf8(text);
 }

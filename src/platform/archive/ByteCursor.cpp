@@ -6,51 +6,48 @@ using namespace Qt::StringLiterals;
 
 namespace sargan {
 
-void failArchive(qint64 offset, const QString& expected, const QString& found) {
-    throw ArchiveError(offset, u"expected %1, found %2"_s.arg(expected, found));
+void failArchive(qint64 offset, ArchivePhrase expected, ArchivePhrase found) {
+    throw ArchiveError(offset, std::move(expected), std::move(found));
 }
 
-void failArchive(qint64 offset, const char* expected, const QString& found) {
-    failArchive(offset, QString::fromLatin1(expected), found);
-}
-
-QString describeByte(uchar byte) {
+ArchivePhrase describeByte(uchar byte) {
+    const QString hexadecimal = u"%1"_s.arg(uint(byte), 2, 16, QChar(u'0'));
     switch (byte) {
         case archivetag::int16:
         case archivetag::int32:
         case archivetag::int64:
-            return u"an integer (byte %1)"_s.arg(uint(byte), 2, 16, QChar(u'0'));
+            return {"an integer (byte %@)"_words, {hexadecimal}};
         case archivetag::real:
-            return u"a floating-point value (byte 83)"_s;
+            return "a floating-point value (byte 83)"_words;
         case archivetag::newItem:
-            return u"a new item (byte 84)"_s;
+            return "a new item (byte 84)"_words;
         case archivetag::nil:
-            return u"nil (byte 85)"_s;
+            return "nil (byte 85)"_words;
         case archivetag::end:
-            return u"the end of an object (byte 86)"_s;
+            return "the end of an object (byte 86)"_words;
         default:
             break;
     }
     const bool reserved = signedByte(byte) < archivetag::leastBareValue;
-    return (reserved ? u"the reserved byte %1"_s : u"the byte %1"_s).arg(uint(byte), 2, 16, QChar(u'0'));
+    return {reserved ? "the reserved byte %@"_words : "the byte %@"_words, {hexadecimal}};
 }
 
-void ByteCursor::failAtEnd(const char* expected) const {
-    failArchive(offset(), expected, u"the end of the file"_s);
+void ByteCursor::failAtEnd(ArchiveWords expected) const {
+    failArchive(offset(), expected, "the end of the file"_words);
 }
 
-QByteArrayView ByteCursor::takeBytes(quint64 count, const char* expected) {
+QByteArrayView ByteCursor::takeBytes(quint64 count, ArchiveWords expected) {
     if (count > quint64(left())) {
-        failArchive(
-            offset(), u"%1 (bytes: %2)"_s.arg(QLatin1StringView(expected)).arg(count),
-            left() == 0 ? u"the end of the file"_s : u"the end of the file after %1 bytes"_s.arg(left()));
+        failArchive(offset(), {"%@ (bytes: %@)"_words, {expected, count}},
+                    left() == 0 ? ArchivePhrase("the end of the file"_words)
+                                : ArchivePhrase("the end of the file after %@ bytes"_words, {left()}));
     }
     const QByteArrayView bytes(_at, qsizetype(count));
     _at += count;
     return bytes;
 }
 
-qint64 ByteCursor::takeWideSigned(uchar head, const char* expected) {
+qint64 ByteCursor::takeWideSigned(uchar head, ArchiveWords expected) {
     switch (head) {
         case archivetag::int16:
             return takeRaw<qint16>(expected);
@@ -63,7 +60,7 @@ qint64 ByteCursor::takeWideSigned(uchar head, const char* expected) {
     }
 }
 
-quint64 ByteCursor::takeUnsigned(const char* expected) {
+quint64 ByteCursor::takeUnsigned(ArchiveWords expected) {
     const uchar head = take(expected);
     if (signedByte(head) >= archivetag::leastBareValue) return head;
     switch (head) {
@@ -78,25 +75,25 @@ quint64 ByteCursor::takeUnsigned(const char* expected) {
     }
 }
 
-qint32 ByteCursor::takeInt32(const char* expected) {
+qint32 ByteCursor::takeInt32(ArchiveWords expected) {
     const qint64 start = offset();
     const qint64 value = takeSigned(expected);
     if (value != qint32(value)) {
-        failArchive(start, u"%1 of 32 bits"_s.arg(QLatin1StringView(expected)), QString::number(value));
+        failArchive(start, {"%@ of 32 bits"_words, {expected}}, value);
     }
     return qint32(value);
 }
 
 float ByteCursor::takeFloat() {
-    const uchar head = take("a number");
-    if (head == archivetag::real) return takeRaw<float>("a number");
-    return float(takeSignedAfter(head, "a number"));
+    const uchar head = take("a number"_words);
+    if (head == archivetag::real) return takeRaw<float>("a number"_words);
+    return float(takeSignedAfter(head, "a number"_words));
 }
 
 double ByteCursor::takeDouble() {
-    const uchar head = take("a number");
-    if (head == archivetag::real) return takeRaw<double>("a number");
-    return double(takeSignedAfter(head, "a number"));
+    const uchar head = take("a number"_words);
+    if (head == archivetag::real) return takeRaw<double>("a number"_words);
+    return double(takeSignedAfter(head, "a number"_words));
 }
 
 }  // namespace sargan

@@ -29,10 +29,9 @@ constexpr int signedByte(uchar byte) {
 }
 
 /// Throws an ArchiveError that says what was expected at `offset` and what was found there.
-[[noreturn]] void failArchive(qint64 offset, const QString& expected, const QString& found);
-[[noreturn]] void failArchive(qint64 offset, const char* expected, const QString& found);
+[[noreturn]] void failArchive(qint64 offset, ArchivePhrase expected, ArchivePhrase found);
 /// How a message names a byte that stands where it must not.
-QString describeByte(uchar byte);
+ArchivePhrase describeByte(uchar byte);
 
 template <typename T>
 T loadLittle(const uchar* at) {
@@ -54,36 +53,36 @@ public:
     void moveTo(const uchar* at) { _at = at; }
 
     /// `expected` completes the sentence of an error at the end of the file.
-    uchar peek(const char* expected) const {
+    uchar peek(ArchiveWords expected) const {
         if (_at == _end) failAtEnd(expected);
         return *_at;
     }
-    uchar take(const char* expected) {
+    uchar take(ArchiveWords expected) {
         const uchar byte = peek(expected);
         ++_at;
         return byte;
     }
-    QByteArrayView takeBytes(quint64 count, const char* expected);
+    QByteArrayView takeBytes(quint64 count, ArchiveWords expected);
 
     /// An integer of any width, sign-extended.
-    qint64 takeSigned(const char* expected) { return takeSignedAfter(take(expected), expected); }
+    qint64 takeSigned(ArchiveWords expected) { return takeSignedAfter(take(expected), expected); }
     /// The same when its head byte has been taken.
-    qint64 takeSignedAfter(uchar head, const char* expected) {
+    qint64 takeSignedAfter(uchar head, ArchiveWords expected) {
         if (signedByte(head) >= archivetag::leastBareValue) return signedByte(head);
         return takeWideSigned(head, expected);
     }
     /// An integer of any width, zero-extended.
-    quint64 takeUnsigned(const char* expected);
-    qint32 takeInt32(const char* expected);
+    quint64 takeUnsigned(ArchiveWords expected);
+    qint32 takeInt32(ArchiveWords expected);
     float takeFloat();
     double takeDouble();
 
 private:
-    [[noreturn]] void failAtEnd(const char* expected) const;
-    qint64 takeWideSigned(uchar head, const char* expected);
+    [[noreturn]] void failAtEnd(ArchiveWords expected) const;
+    qint64 takeWideSigned(uchar head, ArchiveWords expected);
 
     template <typename T>
-    T takeRaw(const char* expected) {
+    T takeRaw(ArchiveWords expected) {
         const T value = loadLittle<T>(reinterpret_cast<const uchar*>(takeBytes(sizeof(T), expected).data()));
         return value;
     }

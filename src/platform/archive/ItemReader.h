@@ -40,11 +40,11 @@ public:
     /// A group's type encoding, checked.
     QByteArrayView groupType();
     /// A group's type encoding, which must be this one letter.
-    void groupOf(char code, const char* expected);
+    void groupOf(char code, ArchiveWords expected);
     /// The count of a collection (pairs count twice), bounded by the bytes left.
     quint64 takeCount(ClassFamily family);
     /// A shared string; null (not empty) for nil, which is an error unless allowed.
-    QByteArrayView sharedText(const char* expected, bool nilAllowed);
+    QByteArrayView sharedText(ArchiveWords expected, bool nilAllowed);
     QByteArrayView unsharedText();  ///< null for nil
     QByteArrayView cString();       ///< null for nil
     quint32 classReference();       ///< noIndex for nil
@@ -59,10 +59,10 @@ private:
         QByteArrayView text;
         quint32 index = noIndex;
     };
-    SharedString sharedString(const char* expected, bool nilAllowed);
-    QByteArrayView newStringText(const char* expected);
+    SharedString sharedString(ArchiveWords expected, bool nilAllowed);
+    QByteArrayView newStringText(ArchiveWords expected);
     quint32 openItem(qint64 offset);
-    quint32 reference(uchar head, qint64 offset, const char* expected);
+    quint32 reference(uchar head, qint64 offset, ArchiveWords expected);
     struct NewClass {
         quint32 index;
         qint64 offset;

@@ -2,8 +2,6 @@
 
 #include "platform/archive/ArchiveWalker.h"
 
-using namespace Qt::StringLiterals;
-
 namespace sargan {
 
 namespace {
@@ -18,7 +16,7 @@ constexpr int slotDepth = 2;
 }  // namespace
 
 ObjectHead SlotReader::takeHead() {
-    _items.groupOf('@', "an object");
+    _items.groupOf('@', "an object"_words);
     return _items.objectHead();
 }
 
@@ -36,11 +34,11 @@ ArchivedObject SlotReader::keep(const ObjectHead& head) {
     return _archive.objectAt(head.index);
 }
 
-void SlotReader::requireUnknown(const ObjectHead& head, quint32 cls, const char* expected) const {
+void SlotReader::requireUnknown(const ObjectHead& head, quint32 cls, ArchiveWords expected) const {
     const ObjectEntry entry = _items.entry(cls);
     if (entry.family() == ClassFamily::Unknown || entry.isDerived()) return;
     failArchive(head.offset, expected,
-                u"an object of class %1"_s.arg(QString::fromUtf8(_items.tables().classAt(cls).name)));
+                {"an object of class %@"_words, {ArchivePhrase::name(_items.tables().classAt(cls).name)}});
 }
 
 void SlotReader::finishContents(const ObjectHead& head, int height, bool derived) {
@@ -72,7 +70,7 @@ QString SlotReader::text(ArchivedObject& kept) {
     if (_items.entry(cls).family() == ClassFamily::String) {
         return head.what == ObjectHead::New ? textContents(head) : textByReference(head.index);
     }
-    requireUnknown(head, cls, "a text");
+    requireUnknown(head, cls, "a text"_words);
     kept = keep(head);
     return {};
 }
@@ -80,7 +78,7 @@ QString SlotReader::text(ArchivedObject& kept) {
 std::optional<double> SlotReader::dateOf(quint32 index) const {
     ItemReader items(_items.tables(), index);
     items.objectHead();
-    if (items.at.peek("a group") == archivetag::end || items.groupType() != "d") return std::nullopt;
+    if (items.at.peek("a group"_words) == archivetag::end || items.groupType() != "d") return std::nullopt;
     return items.at.takeDouble();
 }
 
@@ -91,12 +89,12 @@ Moment SlotReader::moment(ArchivedObject& kept) {
     const quint32 cls = classOf(head);
     const ObjectEntry entry = _items.entry(cls);
     if (entry.family() != ClassFamily::Date) {
-        requireUnknown(head, cls, "a date");
+        requireUnknown(head, cls, "a date"_words);
         kept = keep(head);
         return {};
     }
     if (!entry.isDerived() && head.what == ObjectHead::New) {
-        _items.groupOf('d', "a date");
+        _items.groupOf('d', "a date"_words);
         const double seconds = _items.at.takeDouble();
         finishContents(head, 0, false);
         return Moment::fromSeconds(seconds);
@@ -104,7 +102,7 @@ Moment SlotReader::moment(ArchivedObject& kept) {
     passOver(head);
     if (entry.isDerived()) kept = _archive.objectAt(head.index);
     const std::optional<double> seconds = dateOf(head.index);
-    if (!seconds && !entry.isDerived()) failArchive(head.offset, "a date", u"one without seconds"_s);
+    if (!seconds && !entry.isDerived()) failArchive(head.offset, "a date"_words, "one without seconds"_words);
     return seconds ? Moment::fromSeconds(*seconds) : Moment();
 }
 
@@ -138,7 +136,7 @@ NumberArray SlotReader::numbers(ArchivedObject& kept) {
     const quint32 cls = classOf(head);
     const ObjectEntry entry = _items.entry(cls);
     if (entry.family() != ClassFamily::Array) {
-        requireUnknown(head, cls, "an array of numbers");
+        requireUnknown(head, cls, "an array of numbers"_words);
         kept = keep(head);
         return {};
     }

@@ -27,7 +27,7 @@ private:
     ArchivedObject keep(const ObjectHead& head);
     void passOver(const ObjectHead& head);
     void grow(int height) { _height = qMax(_height, height); }
-    void requireUnknown(const ObjectHead& head, quint32 cls, const char* expected) const;
+    void requireUnknown(const ObjectHead& head, quint32 cls, ArchiveWords expected) const;
     QString textContents(const ObjectHead& head);
     QString textByReference(quint32 index);
     NumberArray arrayContents(const ObjectHead& head);

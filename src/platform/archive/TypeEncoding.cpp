@@ -2,8 +2,6 @@
 
 #include "platform/archive/ByteCursor.h"
 
-using namespace Qt::StringLiterals;
-
 namespace sargan {
 
 namespace {
@@ -26,57 +24,57 @@ public:
     TypeChecker(QByteArrayView type, qint64 offset) : _type(type), _offset(offset) {}
 
     void check() {
-        if (_type.isEmpty()) fail("it is empty");
+        if (_type.isEmpty()) fail("it is empty"_words);
         quint64 least = 0;
         while (_at < _type.size()) least = sum(least, item(0));
         if (quint64(_type.size()) > freeLetters + lettersPerByte * least)
-            fail("it describes hardly any value");
+            fail("it describes hardly any value"_words);
     }
 
 private:
-    [[noreturn]] void fail(const char* why) const {
-        const QString text = QString::fromLatin1(_type.first(qMin(_type.size(), qsizetype(80))));
-        failArchive(_offset, "a type encoding", u"\"%1\", and %2"_s.arg(text, QLatin1StringView(why)));
+    [[noreturn]] void fail(ArchiveWords why) const {
+        failArchive(_offset, "a type encoding"_words,
+                    {"\"%@\", and %@"_words, {ArchivePhrase::name(_type), why}});
     }
 
     char next() const { return _at < _type.size() ? _type[_at] : '\0'; }
 
     quint64 sum(quint64 a, quint64 b) const {
-        if (a + b > mostElements) fail("its size overflows");
+        if (a + b > mostElements) fail("its size overflows"_words);
         return a + b;
     }
 
     /// Steps over one item and returns how many bytes its value takes at least.
     quint64 item(int level) {
-        if (level > mostLevels) fail("it is nested too deeply");
+        if (level > mostLevels) fail("it is nested too deeply"_words);
         const char code = next();
         ++_at;
         if (code == '[') return array(level);
         if (code == '{') return structure(level);
-        if (!isSimple(code)) fail("it has an unknown letter or unbalanced brackets");
+        if (!isSimple(code)) fail("it has an unknown letter or unbalanced brackets"_words);
         return 1;
     }
 
     quint64 array(int level) {
-        if (!isDigit(next())) fail("an array has no length");
+        if (!isDigit(next())) fail("an array has no length"_words);
         quint64 count = 0;
         for (; isDigit(next()); ++_at) {
             count = count * 10 + quint64(next() - '0');
-            if (count > mostElements) fail("an array length overflows");
+            if (count > mostElements) fail("an array length overflows"_words);
         }
         const quint64 element = item(level + 1);
-        if (next() != ']') fail("its brackets are unbalanced");
+        if (next() != ']') fail("its brackets are unbalanced"_words);
         ++_at;
-        if (element == 0) fail("the elements of an array hold nothing");
-        if (count > mostElements / element) fail("an array length overflows");
+        if (element == 0) fail("the elements of an array hold nothing"_words);
+        if (count > mostElements / element) fail("an array length overflows"_words);
         return count * element;
     }
 
     quint64 structure(int level) {
         while (next() && !std::strchr("={}[]", next())) ++_at;
-        if (next() != '=') fail("a struct has no fields");
+        if (next() != '=') fail("a struct has no fields"_words);
         ++_at;
-        if (next() == '}') fail("a struct has no fields");
+        if (next() == '}') fail("a struct has no fields"_words);
         quint64 least = 0;
         while (next() != '}') least = sum(least, item(level + 1));
         ++_at;

@@ -7,15 +7,17 @@ namespace sargan {
 namespace {
 
 FileMessage messageOf(const ArchiveError& error) {
-    const QString where = error.slot().isEmpty() ? QString() : QStringLiteral(" (%1)").arg(error.slot());
+    const QString detail = error.detail([](const char* english) { return QString::fromUtf8(english); });
     return fileMessage(documentproblem::damaged.key, documentproblem::damaged.format,
-                       {QString::number(error.offset()), error.problem() + where});
+                       {QString::number(error.offset()), detail});
 }
 
 }  // namespace
 
 DocumentError::DocumentError(const ArchiveError& error, const QString& path)
-    : DocumentError(messageOf(error), path) {}
+    : DocumentError(messageOf(error), path) {
+    _damage = std::make_shared<ArchiveError>(error);
+}
 
 DocumentError documentError(const documentproblem::Wording& wording, const QStringList& arguments,
                             const QString& path) {

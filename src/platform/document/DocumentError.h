@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 #include <stdexcept>
 
 #include "platform/files/FileMessage.h"
@@ -25,6 +26,8 @@ public:
     const FileMessage& message() const { return _message; }
     /// The file that the sentence names in front; empty when it names none.
     const QString& path() const { return _path; }
+    /// What is wrong with the bytes of the file; null when it is something else.
+    const ArchiveError* damage() const { return _damage.get(); }
 
     static QString withPath(const QString& path, const QString& sentence) {
         return path.isEmpty() ? sentence : path + QStringLiteral(": ") + sentence;
@@ -39,6 +42,7 @@ public:
 private:
     FileMessage _message;
     QString _path;
+    std::shared_ptr<const ArchiveError> _damage;
 };
 
 /// What can be wrong with a document, in words: key of the table "Files", and the English sentence.

@@ -1,5 +1,6 @@
 #include "platform/document/Sentences.h"
 
+#include "platform/archive/ArchiveError.h"
 #include "platform/document/DocumentError.h"
 #include "platform/files/SafeFile.h"
 #include "platform/text/Strings.h"
@@ -17,6 +18,15 @@ QString translated(const Strings& strings, const FileMessage& message) {
     return fillFormat(placeholdersTake(found, kinds) ? found : message.format, arguments);
 }
 
+/// The message with what is wrong with a file's bytes in the current language too.
+FileMessage messageIn(const Strings& strings, const DocumentError& error) {
+    FileMessage message = error.message();
+    if (error.damage())
+        message.arguments.last() = error.damage()->detail(
+            [&strings](const char* english) { return strings.lookup(english, english, "Archive"); });
+    return message;
+}
+
 }  // namespace
 
 QString sentenceIn(const Strings& strings, const std::exception& error) {
@@ -26,8 +36,8 @@ QString sentenceIn(const Strings& strings, const std::exception& error) {
         return translated(strings, read->message());
     if (const auto* document = dynamic_cast<const DocumentError*>(&error))
         if (!document->message().key.isEmpty())
-            return DocumentError::onOneLine(
-                DocumentError::withPath(document->path(), translated(strings, document->message())));
+            return DocumentError::onOneLine(DocumentError::withPath(
+                document->path(), translated(strings, messageIn(strings, *document))));
     return sentenceOf(error);
 }
 

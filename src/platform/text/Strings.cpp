@@ -15,7 +15,8 @@ void Strings::setLanguage(Language language) {
     _catalogues.clear();
     if (language == Language::Keys) return;
     const QString ending = language == Language::French ? QStringLiteral("_fr.qm") : QStringLiteral("_en.qm");
-    for (const char* subject : {"sargan", "calculators", "settings", "profile", "logbook", "interchange", "stats", "registers"}) {
+    for (const char* subject : {"sargan", "archive", "calculators", "settings", "profile", "logbook",
+                                "interchange", "stats", "registers"}) {
         auto catalogue = std::make_unique<QTranslator>();
         if (catalogue->load(QStringLiteral(":/i18n/") + QLatin1String(subject) + ending))
             _catalogues.push_back(std::move(catalogue));
@@ -36,7 +37,7 @@ Strings::Language Strings::systemLanguage() {
 QString Strings::lookup(const char* key, const char* fallback, const char* table) const {
     if (_language == Language::Keys) return QString::fromUtf8(key);
     for (const auto& catalogue : _catalogues) {
-        const QString text = catalogue->translate(table, key);
+        QString text = catalogue->translate(table, key);
         if (!text.isNull()) return text;
     }
     return QString::fromUtf8(fallback);

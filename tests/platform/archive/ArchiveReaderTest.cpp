@@ -49,6 +49,7 @@ private Q_SLOTS:
     void numbersBehindLongClassChainsAreRead();
     void kindsMayChangeWithinAnArray();
     void errorsSayWhereTheyAre();
+    void phrasesAreFilledInAnyLanguage();
 };
 
 void ArchiveReaderTest::elementsMayComeAgain() {
@@ -332,6 +333,18 @@ void ArchiveReaderTest::errorsSayWhereTheyAre() {
             u"byte %1: expected an integer (type \"i\"), found type \"@\" (R 1, lieu)"_s.arg(error.offset()));
         QCOMPARE(QString::fromUtf8(error.what()), error.sentence());
     }
+}
+
+void ArchiveReaderTest::phrasesAreFilledInAnyLanguage() {
+    const ArchivePhrase phrase("%@ (bytes: %@)"_words, {"a text"_words, 5});
+    QCOMPARE(phrase.text(), u"a text (bytes: 5)"_s);
+    const auto backwards = [](const char* english) {
+        return QByteArrayView(english) == "a text" ? u"un texte %@"_s : u"[%@, %@]"_s;
+    };
+    QCOMPARE(phrase.text(backwards), u"[un texte , 5]"_s);
+    // What stands in an archive is no phrase, whatever it looks like.
+    QCOMPARE(ArchivePhrase("%@, %@"_words, {u"%@"_s, u"a text"_s}).text(backwards), u"[%@, a text]"_s);
+    QCOMPARE(ArchivePhrase::name(QByteArray(81, 'x')).text(), QString(80, u'x'));
 }
 
 int runArchiveReaderTest(int argc, char** argv) {

@@ -91,6 +91,9 @@ private Q_SLOTS:
         QTest::newRow("undo step") << u"perform(QStringLiteral(\"Add dive\"), x)"_s
                                    << u"Interface/Add dive/"_s;
         QTest::newRow("type name") << u"{\"Materiel\", true, \"InvMateriel\", x}"_s << u"Main/Materiel/"_s;
+        QTest::newRow("about an archive") << u"fail(at, {\"%@ of %@\"_words, {a, b}})"_s
+                                          << u"Archive/%@ of %@/@@"_s;
+        QTest::newRow("no literal of its own") << u"operator\"\"_words(x)"_s << QString();
         QTest::newRow("not looked up") << u"{\"Budget\", false, \"PreviBudget\", x}"_s << QString();
         QTest::newRow("no message") << u"{\"lieuField\", \"\"}, f(\"Carnet\", \"Easy\")"_s << QString();
     }

@@ -42,6 +42,7 @@ struct Pattern {
     int tableAt = 0;
     int keyAt = 1;
     QString table = u"Interface"_s;
+    bool isKeyFormat = false;  ///< the key's own placeholders say which arguments there are
 };
 
 const QList<Pattern>& patterns() {
@@ -60,6 +61,8 @@ const QList<Pattern>& patterns() {
         {QRegularExpression(u"\\b(?:perform|push)\\(\\s*QStringLiteral\\("_s + literals + u"\\)"_s)},
         // A document kind whose type name is looked up.
         {QRegularExpression(u"\\{"_s + literals + u",\\s*true,\\s*\""_s), 0, 0, 1, u"Main"_s},
+        // "an array of %@ elements"_words
+        {QRegularExpression(u"(?<!operator)"_s + literals + u"_words\\b"_s), 0, 0, 1, u"Archive"_s, true},
     };
     return all;
 }
@@ -71,11 +74,14 @@ QList<CodeText> textsIn(const QString& source, const QString& where) {
     for (const Pattern& pattern : patterns())
         for (auto it = pattern.expression.globalMatch(source); it.hasNext();) {
             const QRegularExpressionMatch match = it.next();
+            const QString key = joined(match.captured(pattern.keyAt));
             const auto line = source.left(match.capturedStart()).count(u'\n') + 1;
             texts.append(
                 {pattern.tableAt ? match.captured(pattern.tableAt) : pattern.table,
-                 joined(match.captured(pattern.keyAt)),
-                 pattern.types ? kindsNamed(match.captured(pattern.types)) : std::vector<ArgumentKind>(),
+                 key,
+                 pattern.types         ? kindsNamed(match.captured(pattern.types))
+                 : pattern.isKeyFormat ? placeholdersOf(key)
+                                       : std::vector<ArgumentKind>(),
                  u"%1:%2"_s.arg(where).arg(line)});
         }
     return texts;
