@@ -27,39 +27,7 @@ void copyProfile(const Plongee& from, Plongee& to) {
     to.setPRESS_Data(from.PRESS_Data());
 }
 
-/// Gives a control back the value that it once had.
-void restore(Form& form, int control, const ControlState& state) {
-    switch (form.spec(control).kind) {
-        case ControlKind::Date:
-        case ControlKind::Time:
-            return form.setDate(control, state.date);
-        case ControlKind::PopUp:
-        case ControlKind::Switch:
-        case ControlKind::Slider:
-            return form.setTag(control, state.tag);
-        default:
-            return form.setText(control, state.text);
-    }
-}
-
 }  // namespace
-
-/// The blank form of a batch, the dive that it makes, and what was changed since the form was blank: a file
-/// tells of a dozen controls in nearly two hundred.
-struct DiveForm::Prepared {
-    std::vector<ControlState> states;
-    Plongee dive;
-    std::vector<int> changed;
-    std::vector<bool> isChanged;  ///< by control
-
-    void note(int control) {
-        if (isChanged[std::size_t(control)]) return;
-        isChanged[std::size_t(control)] = true;
-        changed.push_back(control);
-    }
-};
-
-DiveForm::~DiveForm() = default;
 
 DiveForm::DiveForm(Desk& desk, DiveFormUse use) : _desk(desk), _form(specsOfDiveForm()) {
     const auto controls = diveControls();
@@ -82,29 +50,13 @@ DiveForm::DiveForm(Desk& desk, DiveFormUse use) : _desk(desk), _form(specsOfDive
     connect(&_form, &Form::changed, this, &DiveForm::controlChanged);
     _form.onEndEditing = [this](int control) { endEditing(control); };
     blankFields();
-    if (use == DiveFormUse::Batch) prepareBlank();
+    if (use == DiveFormUse::Batch) _blank = std::make_unique<BlankMemory>(_form, builtDive());
 }
 
 void DiveForm::controlChanged(int control) {
-    if (_prepared) return _prepared->note(control);
+    if (_blank) return _blank->note(control);
     if (_isLoading) return;
     for (const Refresh refresh : std::as_const(_refreshes[std::size_t(control)])) (this->*refresh)();
-}
-
-void DiveForm::prepareBlank() {
-    auto prepared = std::make_unique<Prepared>();
-    for (int i = 0; i < _form.count(); ++i) prepared->states.push_back(_form.state(i));
-    prepared->isChanged.resize(prepared->states.size());
-    prepared->dive = builtDive();
-    _prepared = std::move(prepared);
-}
-
-void DiveForm::backToBlank() {
-    for (const int control : _prepared->changed)
-        restore(_form, control, _prepared->states[std::size_t(control)]);
-    for (const int control : _prepared->changed) _prepared->isChanged[std::size_t(control)] = false;
-    _prepared->changed.clear();
-    copyProfile(_prepared->dive, _working);
 }
 
 void DiveForm::refreshOn(std::initializer_list<ControlName> controls, Refresh refresh) {
@@ -118,7 +70,11 @@ void DiveForm::endEditing(int control) {
 
 void DiveForm::blankFields() {
     _loaded.reset();
-    if (_prepared) return backToBlank();
+    if (_blank) {
+        _blank->restore(_form);
+        copyProfile(_blank->dive(), _working);
+        return;
+    }
     {
         const QScopedValueRollback loading(_isLoading, true);
         fillBlankDive(_form, _desk);
@@ -146,7 +102,7 @@ void DiveForm::editFields(const RecordPointer<Plongee>& dive) {
 
 void DiveForm::setProfile(const Plongee& lists) {
     copyProfile(lists, _working);
-    if (_prepared) return;
+    if (_blank) return;
     _deepest = profile::greatest(_working.profilProfondeur());
     if (!_isLoading) updateCns();
 }
@@ -167,9 +123,9 @@ Plongee DiveForm::builtDive() const {
         if (const auto* field = controls[std::size_t(control)].field)
             std::visit([&](auto at) { takeInto(dive, control, at); }, field->member);
     };
-    if (_prepared && !_loaded) {
-        dive = _prepared->dive;
-        for (const int control : _prepared->changed) take(control);
+    if (_blank && !_loaded) {
+        dive = _blank->dive();
+        for (const int control : _blank->changed()) take(control);
     } else {
         for (int i = 0; i < _form.count(); ++i) take(i);
     }
@@ -187,7 +143,7 @@ void DiveForm::takeInto(Plongee& dive, int control, T Plongee::*field) const {
 }
 
 void DiveForm::updateUI() {
-    if (_prepared) return;
+    if (_blank) return;
     updateSlider();
     updateNitrogen();
     calcDeltaPressure();

@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+#include "logbook/BlankMemory.h"
 #include "logbook/DiveControls.h"
 #include "platform/desk/Desk.h"
 #include "platform/record/Slots.h"
@@ -34,7 +35,6 @@ class DiveForm : public QObject {
 
 public:
     explicit DiveForm(Desk& desk, DiveFormUse use = DiveFormUse::Shown);
-    ~DiveForm() override;
 
     Form& form() { return _form; }
     const Form& form() const { return _form; }
@@ -73,10 +73,7 @@ Q_SIGNALS:
 
 private:
     using Refresh = void (DiveForm::*)();
-    struct Prepared;
     void controlChanged(int control);
-    void prepareBlank();
-    void backToBlank();
     Plongee builtDive() const;
     void refreshOn(std::initializer_list<ControlName> controls, Refresh refresh);
     void endEditing(int control);
@@ -95,7 +92,7 @@ private:
     float _deepest = 0;              ///< of the working samples
     DiveFigures _figures;
     std::vector<QList<Refresh>> _refreshes;  ///< by control: what depends on it
-    std::unique_ptr<Prepared> _prepared;     ///< the blank form of a batch; null for a form that is shown
+    std::unique_ptr<BlankMemory> _blank;     ///< of a batch; null for a form that is shown
     bool _isLoading = false;                 ///< all controls change; the captions follow once
 };
 
