@@ -98,5 +98,5 @@ function(sargan_test name)
     set(ARG_LABELS quick)
   endif()
   set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}" TIMEOUT 600
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QTEST_DISABLE_STACK_DUMP=1;LC_ALL=C.UTF-8;TZ=Europe/Paris;SARGAN_SETTINGS=${PROJECT_BINARY_DIR}/test-settings")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QTEST_DISABLE_STACK_DUMP=1;LC_ALL=C.UTF-8;TZ=Europe/Paris;SARGAN_SETTINGS=${PROJECT_BINARY_DIR}/test-settings;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0")
 endfunction()

@@ -194,7 +194,9 @@ constexpr Command list[] = {
      {},
      runNew},
     {"add", "FILE control=value… [--press ACTION]",
-     "Adds a record through the blank form and prints its row.", pressOption, runAdd},
+     "Adds a record through the blank form and prints its row. A picture is a file: photocopy=scan.png, or a "
+     "page of a PDF: photocopy=scan.pdf#3.",
+     pressOption, runAdd},
     {"set", "FILE --row N control=value… [--press ACTION]", "Changes a record through the form.", setOptions,
      runSet},
     {"form", "FILE [--row N] [--json]", "Shows every control of the form, blank or with a record in it.",

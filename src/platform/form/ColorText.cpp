@@ -14,7 +14,7 @@ constexpr double fullComponent = 65535;
 
 float fewestDigits(quint16 component) {
     const double exact = component / fullComponent;
-    for (double scale = 1; scale < 1e6; scale *= 10) {
+    for (const double scale : {1.0, 1e1, 1e2, 1e3, 1e4, 1e5}) {
         const double rounded = std::round(exact * scale) / scale;
         if (std::lround(rounded * fullComponent) == component) return float(rounded);
     }

@@ -43,6 +43,8 @@ struct ControlSpec {
     int minimum = 0;                                 ///< sliders
     int maximum = 0;
     bool spread = false;                             ///< pop-ups: all items in view, as radio buttons
+    const char* noDate = "";                         ///< dates: the text in place of none
+    bool numbered = false;                           ///< gauges: the bar shows its number too
 };
 
 /// A control's name where the code uses it; texts from outside go through Form::find.

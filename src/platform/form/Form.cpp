@@ -1,5 +1,8 @@
 #include "platform/form/Form.h"
 
+#include <QFileInfo>
+#include <QRegularExpression>
+
 #include "platform/files/SafeFile.h"
 #include "platform/form/ColorText.h"
 #include "platform/form/PictureBytes.h"
@@ -15,10 +18,28 @@ constexpr bool isTyped(ControlKind kind) {
            kind == ControlKind::Combo || kind == ControlKind::Caption;
 }
 
-QByteArray pictureIn(const QString& control, const QByteArray& bytes) {
-    const QByteArray picture = pictureBytesOf(bytes);
+QByteArray pictureIn(const QString& control, const QByteArray& bytes, int page = 0) {
+    QByteArray picture = pictureBytesOf(bytes, page);
     if (picture.isNull()) throw ControlValueError(control, QStringLiteral("the file is no picture"));
     return picture;
+}
+
+/// A file's picture, or that of one page of a PDF, counted from 1: "scan.pdf#3". A file whose name ends so
+/// comes first.
+QByteArray pictureAt(const QString& control, const QString& place) {
+    static const QRegularExpression pageOfFile(QStringLiteral("^(.+)#(\\d{1,9})$"));
+    const QRegularExpressionMatch match = pageOfFile.match(place);
+    if (!match.hasMatch() || QFileInfo::exists(place) || !QFileInfo::exists(match.captured(1)))
+        return pictureIn(control, readFile(place));
+    const QByteArray file = readFile(match.captured(1));
+    const int pages = pdfPageCount(file);
+    const int page = match.captured(2).toInt();
+    if (pages == 0) throw ControlValueError(control, QStringLiteral("only a PDF has pages to choose from"));
+    if (page < 1 || page > pages)
+        throw ControlValueError(control, QStringLiteral("the file has no page %1, its last one is page %2")
+                                             .arg(page)
+                                             .arg(pages));
+    return pictureIn(control, file, page - 1);
 }
 
 int wholeNumber(const QString& control, const QString& text) {
@@ -161,7 +182,7 @@ void Form::fill(int control, const QString& value) {
             break;
         }
         case ControlKind::Image:
-            setImage(control, value.isEmpty() ? QByteArray() : pictureIn(name, readFile(value)));
+            setImage(control, value.isEmpty() ? QByteArray() : pictureAt(name, value));
             break;
         case ControlKind::Color: {
             const QColor color = colorFromText(value);
@@ -200,6 +221,7 @@ QString Form::shownText(int control, const Strings& strings) const {
                 if (item.tag == shown.tag) return strings.text(item.words);
             return {};
         case ControlKind::Date:
+            if (!shown.date.isPresent()) return QLatin1String(spec(control).noDate);
             return shown.date.local().toString(QStringLiteral("dd/MM/yyyy"));
         case ControlKind::Time:
             return shown.date.local().toString(QStringLiteral("HH:mm"));

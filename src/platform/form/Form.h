@@ -73,14 +73,14 @@ public:
     // --- What the person does ---
 
     /// Gives a control a value written as text: fields as it stands, dates and times as ISO 8601, pop-ups,
-    /// switches and sliders as a whole number, pictures as a file's path, colours as rgba(…) or a name.
-    /// Throws ControlValueError. Then editing of the control has ended.
+    /// switches and sliders as a whole number, pictures as a file's path ("scan.pdf#3": the third page of a
+    /// PDF), colours as rgba(…) or a name. Throws ControlValueError. Then editing of the control has ended.
     void fill(int control, const QString& value);
     /// Leaving a control, as with Tab.
     void endEditing(int control);
     /// Presses a button. Throws UnknownControlError for one that the form does not have.
     void press(const QString& action);
-    void addAction(const QString& name, std::function<void()> action) { _actions.insert(name, std::move(action)); }
+    void addAction(const QString& name, const std::function<void()>& action) { _actions.insert(name, action); }
     QStringList actionNames() const;
 
     /// The words beside a control's value: the selected item of a pop-up, a date in the usual pattern.

@@ -14,7 +14,11 @@ namespace {
     throw JsonError(path, QStringLiteral("expected %1").arg(QString::fromUtf8(expected)));
 }
 
+/// A picture told as the archived object that it is.
+constexpr const char* archivedKind = "archived";
+
 const char* pictureKind(const QByteArray& bytes) {
+    if (bytes.isEmpty()) return archivedKind;
     if (bytes.startsWith("\x89PNG")) return "png";
     if (bytes.startsWith("\xff\xd8\xff")) return "jpeg";
     return "tiff";
@@ -78,6 +82,13 @@ QJsonValue value(const Picture& field) {
                        {QStringLiteral("base64"), QString::fromLatin1(field.bytes.toBase64())}};
 }
 
+QJsonValue value(const ArchivedObject& picture) {
+    ArchiveWriter writer;
+    writer.writeObject(picture);
+    return QJsonObject{{QStringLiteral("image"), QLatin1String(archivedKind)},
+                       {QStringLiteral("base64"), QString::fromLatin1(writer.take().toBase64())}};
+}
+
 void read(const QJsonValue& json, const QString& path, ListKind, Int& field) {
     const double value = json.toDouble(0.5);
     if (!isInt32(value)) wrong(path, "a whole number of 32 bits");
@@ -122,15 +133,40 @@ void read(const QJsonValue& json, const QString& path, ListKind kind, Numbers& f
     }
 }
 
-void read(const QJsonValue& json, const QString& path, ListKind, Picture& field) {
-    if (json.isNull()) return;
+namespace {
+
+QByteArray readBase64(const QJsonValue& json, const QString& path) {
     const QJsonValue base64 = json.toObject().value(QLatin1String("base64"));
     if (!base64.isString()) wrong(path, "a picture {\"image\": …, \"base64\": …} or null");
-    const auto decoded =
+    auto decoded =
         QByteArray::fromBase64Encoding(base64.toString().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
     if (decoded.decodingStatus != QByteArray::Base64DecodingStatus::Ok)
         wrong(path + QStringLiteral(".base64"), "base64 text");
-    field.bytes = *decoded;
+    return std::move(decoded.decoded);
+}
+
+}  // namespace
+
+void read(const QJsonValue& json, const QString& path, ListKind, Picture& field) {
+    if (json.isNull()) return;
+    const QByteArray bytes = readBase64(json, path);
+    if (!beginsLikePicture(bytes))
+        wrong(path + QStringLiteral(".base64"), "the bytes of a PNG, JPEG or TIFF picture");
+    const char* kind = pictureKind(bytes);
+    const QJsonValue told = json.toObject().value(QLatin1String("image"));
+    if (!told.isUndefined() && told != QLatin1String(kind)) wrong(path + QStringLiteral(".image"), kind);
+    field.bytes = bytes;
+}
+
+ArchivedObject readArchived(const QJsonValue& json, const QString& path) {
+    if (json.toObject().value(QLatin1String("image")) != QLatin1String(archivedKind)) return {};
+    const QByteArray bytes = readBase64(json, path);
+    try {
+        const ArchivedObject root = Archive::read(bytes)->root();
+        if (!root.isNil() && root.pictureBytes().isNull()) return root;
+    } catch (const ArchiveError&) {
+    }
+    wrong(path + QStringLiteral(".base64"), "an archive of a picture object that cannot be read");
 }
 
 }  // namespace sargan::json

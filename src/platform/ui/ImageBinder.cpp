@@ -6,12 +6,15 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
 #include <QPixmap>
 #include <QToolButton>
 #include <QUrl>
 
 #include "platform/files/SafeFile.h"
 #include "platform/form/PictureBytes.h"
+#include "platform/ui/Icons.h"
+#include "platform/ui/Mnemonics.h"
 
 namespace sargan {
 
@@ -21,32 +24,45 @@ bool isOffered(const QMimeData& mime) {
     return mime.hasImage() || (mime.hasUrls() && mime.urls().first().isLocalFile());
 }
 
-/// The picture that is dropped or pasted; a file comes as its own bytes. Null when there is none.
-QByteArray pictureIn(const QMimeData& mime) {
-    if (mime.hasUrls() && mime.urls().first().isLocalFile()) {
-        try {
-            return pictureBytesOf(readFile(mime.urls().first().toLocalFile()));
-        } catch (const std::exception&) {
-            return {};
-        }
+/// The file that is dropped or pasted; null when there is none, or none that can be read.
+QByteArray fileIn(const QMimeData& mime) {
+    if (!mime.hasUrls() || !mime.urls().first().isLocalFile()) return {};
+    try {
+        return readFile(mime.urls().first().toLocalFile());
+    } catch (const std::exception&) {
+        return {};
     }
-    return pictureBytesOf(qvariant_cast<QImage>(mime.imageData()));
+}
+
+/// What stands where a picture could be: the sign for that, and the button's words below it.
+QPixmap invitation(const QToolButton& well) {
+    constexpr int side = 48;
+    const QFontMetrics metrics = well.fontMetrics();
+    const QSize size(std::max(side, metrics.horizontalAdvance(well.text()) + 8), side + 2 * metrics.height());
+    QPixmap drawn(size * well.devicePixelRatioF());
+    drawn.setDevicePixelRatio(well.devicePixelRatioF());
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    iconNamed("noPhoto").paint(&painter, QRect(QPoint((size.width() - side) / 2, 0), QSize(side, side)));
+    painter.setFont(well.font());
+    painter.setPen(well.palette().color(QPalette::ButtonText));
+    painter.drawText(QRect(QPoint(0, 0), size), Qt::AlignHCenter | Qt::AlignBottom, well.text());
+    return drawn;
 }
 
 }  // namespace
 
-ImageBinder::ImageBinder(Form& form, int control, const Strings& strings, const FormChoosers& choosers,
+ImageBinder::ImageBinder(Form& form, int control, const Desk& desk, const FormChoosers& choosers,
                          QWidget* parent)
-    : ControlBinder(form, control), _strings(strings), _choosers(choosers), _well(new QToolButton(parent)) {
-    _well->setIconSize(QSize(240, 180));
+    : ControlBinder(form, control), _desk(desk), _choosers(choosers), _well(new QToolButton(parent)) {
     _well->setMinimumSize(QSize(200, 150));
     _well->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    _well->setText(words());
     _well->setFocusPolicy(Qt::StrongFocus);
     _well->setAcceptDrops(true);
     _well->installEventFilter(this);
     connect(_well, &QToolButton::clicked, this, [this] { choose(); });
     makeMenu();
+    showPicture();
 }
 
 QWidget* ImageBinder::widget() const {
@@ -60,9 +76,10 @@ void ImageBinder::makeMenu() {
         item->setObjectName(QLatin1String(name));
         connect(item, &QAction::triggered, this, action);
     };
-    add("choosePicture", _strings.ui("Choose a picture…"), [this] { choose(); });
-    add("pastePicture", _strings.ui("Paste"), [this] { paste(); });
-    add("removePicture", _strings.ui("Remove the picture"), [this] { remove(); });
+    add("choosePicture", _desk.strings.ui("Choose a picture…"), [this] { choose(); });
+    add("pastePicture", _desk.strings.ui("Paste"), [this] { paste(); });
+    add("removePicture", _desk.strings.ui("Remove the picture"), [this] { remove(); });
+    keepMnemonics(menu);
     _well->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(_well, &QWidget::customContextMenuRequested, menu,
             [this, menu](QPoint at) { menu->popup(_well->mapToGlobal(at)); });
@@ -74,6 +91,10 @@ bool ImageBinder::eventFilter(QObject*, QEvent* event) {
             return keyPressed(static_cast<QKeyEvent*>(event));
         case QEvent::Resize:
             _well->setIconSize(_well->size() - QSize(12, 12));
+            return false;
+        case QEvent::PaletteChange:
+        case QEvent::FontChange:
+            showPicture();
             return false;
         case QEvent::DragEnter: {
             auto* drag = static_cast<QDragEnterEvent*>(event);
@@ -101,7 +122,8 @@ bool ImageBinder::keyPressed(QKeyEvent* event) {
 }
 
 QString ImageBinder::words() const {
-    return _shown.isNull() ? _strings.ui("Choose a picture…") : _strings.ui("This picture cannot be shown");
+    return _shown.isNull() ? _desk.strings.ui("Choose a picture…")
+                           : _desk.strings.ui("This picture cannot be shown");
 }
 
 void ImageBinder::show(const ControlState& state) {
@@ -109,16 +131,22 @@ void ImageBinder::show(const ControlState& state) {
         state.image.isNull() == _shown.isNull())
         return;
     _shown = state.image;
+    showPicture();
+}
+
+void ImageBinder::showPicture() {
     QPixmap picture;
     const bool isPicture = picture.loadFromData(_shown);
-    _well->setIcon(isPicture ? QIcon(picture) : QIcon());
-    _well->setToolButtonStyle(isPicture ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextOnly);
     _well->setText(words());
+    if (_shown.isNull()) picture = invitation(*_well);
+    _well->setIcon(picture.isNull() ? QIcon() : QIcon(picture));
+    _well->setToolButtonStyle(isPicture || _shown.isNull() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextOnly);
 }
 
 void ImageBinder::choose() {
-    const QByteArray bytes = _choosers.image(_well);
-    if (!bytes.isNull()) put(bytes);
+    const QByteArray file = _choosers.image(_well);
+    if (file.isNull() || takeFile(file)) return;
+    _desk.prompt.alert(_desk.strings.ui("This file is no picture."));
 }
 
 void ImageBinder::paste() {
@@ -127,13 +155,29 @@ void ImageBinder::paste() {
 
 bool ImageBinder::takeFrom(const QMimeData& offered) {
     if (!_well->isEnabled() || !isOffered(offered)) return false;
-    const QByteArray bytes = pictureIn(offered);
-    if (bytes.isNull()) {
-        QApplication::beep();
-        return false;
+    const QByteArray file = fileIn(offered);
+    const QImage picture = qvariant_cast<QImage>(offered.imageData());
+    if (file.isNull() ? takeFile(pictureBytesOf(picture)) : takeFile(file)) return true;
+    QApplication::beep();
+    return false;
+}
+
+bool ImageBinder::takeFile(const QByteArray& file) {
+    if (pdfPageCount(file) > 1) {
+        // Later: whoever drops a file waits until the drop has been answered.
+        QMetaObject::invokeMethod(
+            this, [this, file] { askForPage(file); }, Qt::QueuedConnection);
+        return true;
     }
-    put(bytes);
-    return true;
+    const QByteArray bytes = pictureBytesOf(file);
+    if (!bytes.isNull()) put(bytes);
+    return !bytes.isNull();
+}
+
+void ImageBinder::askForPage(const QByteArray& pdf) {
+    const int page = _choosers.page(_well, pdf);
+    const QByteArray bytes = page < 0 ? QByteArray() : pictureBytesOf(pdf, page);
+    if (!bytes.isNull()) put(bytes);
 }
 
 void ImageBinder::put(const QByteArray& bytes) {

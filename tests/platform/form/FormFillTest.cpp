@@ -1,7 +1,9 @@
+#include <QImage>
 #include <QTest>
 
 #include "platform/files/Folder.h"
 #include "platform/form/FormTests.h"
+#include "support/ColouredPdf.h"
 #include "support/Failure.h"
 
 using namespace sargan;
@@ -124,6 +126,53 @@ private Q_SLOTS:
         QCOMPARE(form.state(photo).image, QByteArray("\x89PNG bytes"));
         form.fill(photo, u""_s);
         QVERIFY(form.state(photo).image.isEmpty());
+    }
+
+    void aPageOfAPdfIsChosenByItsNumber_data() {
+        QTest::addColumn<QString>("place");
+        QTest::addColumn<QSize>("size");  // two pixels to a point
+        QTest::addColumn<QColor>("color");
+        QTest::newRow("the first of itself") << u"three.pdf"_s << QSize(200, 100) << QColor(Qt::red);
+        QTest::newRow("first") << u"three.pdf#1"_s << QSize(200, 100) << QColor(Qt::red);
+        QTest::newRow("second") << u"three.pdf#2"_s << QSize(400, 100) << QColor(Qt::green);
+        QTest::newRow("last") << u"three.pdf#3"_s << QSize(600, 100) << QColor(Qt::blue);
+        QTest::newRow("a file of that name") << u"one.pdf#2"_s << QSize(200, 100) << QColor(Qt::yellow);
+    }
+    void aPageOfAPdfIsChosenByItsNumber() {
+        QFETCH(QString, place);
+        const Folder folder;
+        folder.put(u"three.pdf"_s, pdf::colouredPages({Qt::red, Qt::green, Qt::blue}));
+        folder.put(u"one.pdf#2"_s, pdf::colouredPages({Qt::yellow}));
+        Form form(formtest::controls);
+        form.fill(form.find(u"photoImage"), folder.path(place));
+        QImage page;
+        QVERIFY(page.loadFromData(form.state(form.find(u"photoImage")).image, "PNG"));
+        QTEST(page.size(), "size");
+        QTEST(page.pixelColor(page.rect().center()), "color");
+    }
+
+    void aPageThatThereIsNotIsTold_data() {
+        QTest::addColumn<QString>("place");
+        QTest::addColumn<QString>("problem");
+        QTest::newRow("none") << u"two.pdf#0"_s
+                              << u"photoImage: the file has no page 0, its last one is page 2"_s;
+        QTest::newRow("behind the last")
+            << u"two.pdf#3"_s << u"photoImage: the file has no page 3, its last one is page 2"_s;
+        QTest::newRow("no PDF") << u"a.txt#1"_s << u"photoImage: only a PDF has pages to choose from"_s;
+        QTest::newRow("cut off") << u"cut.pdf"_s << u"photoImage: the file is no picture"_s;
+    }
+    void aPageThatThereIsNotIsTold() {
+        QFETCH(QString, place);
+        const Folder folder;
+        folder.put(u"two.pdf"_s, pdf::colouredPages({Qt::red, Qt::green}));
+        folder.put(u"a.txt"_s, "words");
+        folder.put(u"cut.pdf"_s, "%PDF-1.4\n");
+        Form form(formtest::controls);
+        const auto failure =
+            failureOf<ControlValueError>([&] { form.fill(form.find(u"photoImage"), folder.path(place)); });
+        QVERIFY(failure);
+        QTEST(failure->sentence(), "problem");
+        QVERIFY(form.state(form.find(u"photoImage")).image.isNull());
     }
 };
 

@@ -186,6 +186,11 @@ private Q_SLOTS:
         const QString picture = u"picture: expected a picture {\"image\": …, \"base64\": …} or null"_s;
         row("text for picture", R"({"picture": "x"})", picture);
         row("picture without bytes", R"({"picture": {"image": "png"}})", picture);
+        const QString bytes = u"picture.base64: expected the bytes of a PNG, JPEG or TIFF picture"_s;
+        row("no picture", R"({"picture": {"image": "png", "base64": "c2tldGNo"}})", bytes);
+        row("no bytes", R"({"picture": {"image": "png", "base64": ""}})", bytes);
+        row("another kind", R"({"picture": {"image": "png", "base64": "/9j/AA=="}})",
+            u"picture.image: expected jpeg"_s);
         row("no base64", R"({"picture": {"image": "png", "base64": "%%%"}})",
             u"picture.base64: expected base64 text"_s);
     }
