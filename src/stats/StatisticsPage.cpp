@@ -8,6 +8,7 @@ namespace {
 
 constexpr TextStyle green{.color = inkcolor::green};
 constexpr TextStyle blue{.color = inkcolor::blue};
+constexpr TextStyle figure{.color = inkcolor::blue, .hanging = true};
 constexpr TextStyle black{.color = inkcolor::black};
 constexpr TextStyle title{.color = inkcolor::red, .underline = true};
 
@@ -41,9 +42,9 @@ void appendCounts(StyledText& page, const Section& section, const Form& panel, c
 
 void appendFigures(StyledText& page, const Form& panel, const Strings& strings) {
     page.append(strings.text(Message<>{"Carnet", "Statistics min max"}), title);
-    for (const FigureField& figure : figureFields()) {
-        page.append(strings.text(figure.pageLabel), black);
-        page.append(panel.text(ControlName{figure.field}), blue);
+    for (const FigureField& field : figureFields()) {
+        page.append(strings.text(field.pageLabel), black);
+        page.append(panel.text(ControlName{field.field}), figure);
     }
 }
 

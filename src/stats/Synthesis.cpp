@@ -39,12 +39,18 @@ void append(StyledText& text, const ReportLine& line, const ReportedDive& dive) 
             text.append(words, sectionTitle);
             break;
         case LineKind::Heading:
-            text.append(u"\r"_s + words, label);
+            text.append(u"\r"_s + words + shown, label);
             break;
         case LineKind::Item:
             text.append(u"\r"_s + words + u" : "_s, label);
             text.append(shown, value);
             break;
+        case LineKind::Named: {
+            const qsizetype end = shown.indexOf(u" : "_s) + 3;
+            text.append(u"\r"_s + shown.left(end), label);
+            text.append(shown.mid(end), value);
+            break;
+        }
         case LineKind::Text:
             text.append(shown, value);
             break;

@@ -55,10 +55,8 @@ QString ofTank(Dive d) {
 template <const Tank& tank>
 QString heading(Dive d) {
     if (&tank == &mainTank)
-        return u'\r' +
-               d.strings.text(isClosed(d) ? Message<>{"Carnet", "Oxygen"} : Message<>{"Carnet", "Tank_1"});
-    return u'\r' +
-           d.strings.text(isRebreather(d) ? Message<>{"Carnet", "Diluent"} : Message<>{"Carnet", "Tank_2"});
+        return d.strings.text(isClosed(d) ? Message<>{"Carnet", "Oxygen"} : Message<>{"Carnet", "Tank_1"});
+    return d.strings.text(isRebreather(d) ? Message<>{"Carnet", "Diluent"} : Message<>{"Carnet", "Tank_2"});
 }
 
 template <const Tank& tank>
@@ -196,7 +194,7 @@ constexpr ReportLine gas[] = {
     {Section, {"Carnet", "Gas"}, nullptr},
     {Item, {"Carnet", "Scaphander"}, &apparatus},
 
-    {Text, noLabel, &heading<mainTank>},
+    {Heading, noLabel, &heading<mainTank>},
     {Text, noLabel, &alloy<mainTank>},
     {Item, {"Carnet", "Tank pressure"}, &capacity<mainTank>},
     {Item, {"Carnet", "Start pressure"}, &startPressure<mainTank>},
@@ -208,7 +206,7 @@ constexpr ReportLine gas[] = {
     {Text, noLabel, &mainMix},
     {Item, {"Carnet", "Flow"}, &flow},
 
-    {Text, noLabel, &ofTank<secondTank, &heading<secondTank>>},
+    {Heading, noLabel, &ofTank<secondTank, &heading<secondTank>>},
     {Text, noLabel, &ofTank<secondTank, &alloy<secondTank>>},
     {Item, {"Carnet", "Tank pressure"}, &ofTank<secondTank, &capacity<secondTank>>},
     {Item, {"Carnet", "Start pressure"}, &ofTank<secondTank, &startPressure<secondTank>>},

@@ -23,9 +23,9 @@ QString clockTime(const QDateTime& time) {
 
 /// The position behind its datum. The untouched template of the form is no position.
 QString position(Dive d) {
-    const QString datum = d.dive.gpsSystem() == 1   ? u"\rGPS (WGS84) : "_s
-                          : d.dive.gpsSystem() == 2 ? u"\rGPS (ED50) : "_s
-                                                    : u"\rGPS (...) : "_s;
+    const QString datum = d.dive.gpsSystem() == 1   ? u"GPS (WGS84) : "_s
+                          : d.dive.gpsSystem() == 2 ? u"GPS (ED50) : "_s
+                                                    : u"GPS (...) : "_s;
     const bool isBlank = d.dive.gps() == d.strings.text(Message<>{"Carnet", "GPS template"});
     return datum + (isBlank ? QString() : d.dive.gps());
 }
@@ -62,7 +62,7 @@ QString endTime(Dive d) {
 
 QString gradientFactors(Dive d) {
     if (d.dive.lowGF() == 0 && d.dive.highGF() == 0) return {};
-    return u"\rGF : %1/%2"_s.arg(d.dive.lowGF()).arg(d.dive.highGF());
+    return u"GF : %1/%2"_s.arg(d.dive.lowGF()).arg(d.dive.highGF());
 }
 
 /// The two kinds of tables; other methods are told by the computer's name.
@@ -92,7 +92,7 @@ constexpr ReportLine general[] = {
     {Item, {"Carnet", "Location"}, [](Dive d) { return orEmpty(d.dive.lieu()); }},
     {Item, {"Carnet", "Site"}, [](Dive d) { return orEmpty(d.dive.site()); }},
     {Item, {"Carnet", "Pays"}, [](Dive d) { return orEmpty(d.dive.pays()); }},
-    {Text, noLabel, &position},
+    {Named, noLabel, &position},
     {Item, {"Carnet", "Tide coefficient"}, &tide},
     {Item, {"Carnet", "Wrecks"}, [](Dive d) { return orEmpty(d.dive.epaves()); }},
     {Item, {"Carnet", "Buddies"}, [](Dive d) { return orEmpty(d.dive.partenaires()); }},
@@ -129,7 +129,7 @@ constexpr ReportLine general[] = {
 
     {Section, {"Carnet", "Decompression"}, nullptr},
     {Item, {"Carnet", "Computer"}, [](Dive d) { return orEmpty(d.dive.ordinateur()); }},
-    {Text, noLabel, &gradientFactors},
+    {Named, noLabel, &gradientFactors},
     {Text, noLabel, &tables},
     {Heading, {"Carnet", " Run Time"}, &plannedRun},
     {Item, {"Carnet", "Deco soft name"}, [](Dive d) { return orEmpty(d.dive.decoSoftName()); }},

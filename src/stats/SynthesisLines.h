@@ -22,8 +22,9 @@ struct ReportedDive {
 enum class LineKind : char {
     Title,    ///< the dive's heading
     Section,  ///< a heading of items
-    Heading,  ///< a smaller one, shown when its value is not null
+    Heading,  ///< a smaller one: its label or, without one, its value
     Item,     ///< label and value
+    Named,    ///< a value that brings its own label, which ends in " : "
     Text,     ///< a value that brings its own line break
 };
 

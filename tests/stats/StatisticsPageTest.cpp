@@ -77,6 +77,8 @@ private Q_SLOTS:
             QVERIFY(styleOf(u"Statistics "_s + QLatin1String(section)) == title);
         QVERIFY(styleOf(u"Statistics bio"_s) == TextStyle{.color = inkcolor::black});
         QVERIFY(styleOf(u"(100.0 %)"_s) == TextStyle{.color = inkcolor::blue});
+        QVERIFY2(styleOf(u"(61 min.)"_s) == (TextStyle{.color = inkcolor::blue, .hanging = true}),
+                 "the total in minutes stands below the one in hours");
         QVERIFY(styleOf(u"Statistics current"_s) == TextStyle{.color = inkcolor::black});
         QVERIFY(styleOf(u"File dir"_s) == TextStyle{.color = inkcolor::green});
     }

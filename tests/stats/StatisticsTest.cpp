@@ -1,4 +1,3 @@
-#include <QSignalSpy>
 #include <cmath>
 
 #include "stats/StatsTests.h"
@@ -7,10 +6,6 @@ using namespace sargan;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString field(const Statistics& statistics, const char* name) {
-    return statistics.panel().text(ControlName{name});
-}
 
 Plongee sampleDive(int minutes, float depth) {
     Plongee dive = quietDive();
@@ -25,8 +20,6 @@ Plongee sampleDive(int minutes, float depth) {
 void ignore(Statistics& statistics, bool yes) {
     statistics.panel().setTag(statcontrol::ignorePrevious, yes ? 1 : 0);
 }
-
-const QString valuesKey = u"statistics values"_s;
 
 }  // namespace
 
@@ -141,118 +134,6 @@ private Q_SLOTS:
         QCOMPARE(field(statistics, "statStateField"), u"Total dives: 11"_s);
     }
 
-    void theEditorShowsWhatIsStoredAndZeroForTheRest() {
-        TestDesk desk;
-        desk.defaults.store(valuesKey,
-                            QJsonObject{{u"co"_s, 12}, {u"heliox"_s, u"some"_s}, {u"prof max"_s, 40.5}});
-        const auto carnet = logbookOf(desk, {});
-        Statistics statistics(*carnet);
-        const QSignalSpy shown(&statistics, &Statistics::editorShown);
-        statistics.panel().press(u"showEditStatisticsWindow"_s);
-        QCOMPARE(shown.count(), 1);
-        const auto text = [&](const char* name) { return statistics.editor().text(ControlName{name}); };
-        QCOMPARE(text("statSumCOField"), u"12"_s);
-        QCOMPARE(text("statSumHelioxField"), u"some"_s);
-        QCOMPARE(text("statSumProfMaxField"), u"40.5"_s);
-        QCOMPARE(text("statSumDivesField"), u"0"_s);
-    }
-
-    void everyInputOfTheEditorIsStoredUnderItsKey() {
-        const QList<std::pair<const char*, const char*>> inputs{{"co", "CO"},
-                                                                {"scr", "SCR"},
-                                                                {"ccr", "CCR"},
-                                                                {"air", "Air"},
-                                                                {"nitrox", "Nitrox"},
-                                                                {"trimix", "Trimix"},
-                                                                {"heliox", "Heliox"},
-                                                                {"prof_1", "Prof_1"},
-                                                                {"prof_2", "Prof_2"},
-                                                                {"prof_3", "Prof_3"},
-                                                                {"prof_4", "Prof_4"},
-                                                                {"prof_5", "Prof_5"},
-                                                                {"prof_6", "Prof_6"},
-                                                                {"prof_7", "Prof_7"},
-                                                                {"prof max", "ProfMax"},
-                                                                {"temps max", "TempsMax"},
-                                                                {"temperature min", "TempMin"},
-                                                                {"temperature max", "TempMax"},
-                                                                {"bio", "Bio"},
-                                                                {"carriere", "Carriere"},
-                                                                {"derivante", "Derivante"},
-                                                                {"epaves", "Epaves"},
-                                                                {"explo", "Explo"},
-                                                                {"formation", "Formation"},
-                                                                {"nocturne", "Nocturne"},
-                                                                {"photo", "Photo"},
-                                                                {"recuperation", "Recup"},
-                                                                {"glace", "Glace"},
-                                                                {"speleo", "Speleo"},
-                                                                {"tek", "Tek"},
-                                                                {"travail", "Travail"},
-                                                                {"video", "Video"},
-                                                                {"autre", "Autre"},
-                                                                {"total profondeur", "Prof"},
-                                                                {"total temps", "Temps"},
-                                                                {"total plongees", "Dives"}};
-        TestDesk desk;
-        const auto carnet = logbookOf(desk, {});
-        Statistics statistics(*carnet);
-        Form& editor = statistics.editor();
-        QCOMPARE(editor.count(), int(inputs.size()));
-        int number = 1000;
-        for (const auto& [key, name] : inputs)
-            editor.setText(editor.find(u"statSum%1Field"_s.arg(QLatin1String(name))),
-                           QString::number(++number));
-        const QSignalSpy closed(&statistics, &Statistics::editorClosed);
-        editor.press(u"validateStatisticsValues"_s);
-        QCOMPARE(closed.count(), 1);
-        const QJsonObject stored = desk.defaults.stored(valuesKey).toObject();
-        QCOMPARE(stored.size(), inputs.size());
-        number = 1000;
-        for (const auto& [key, name] : inputs)
-            QCOMPARE(stored.value(QLatin1String(key)), QJsonValue(++number));
-        QCOMPARE(field(statistics, "statStateField"), u"Total dives: 1036"_s);
-        QCOMPARE(field(statistics, "statBioField"), u"1019"_s);
-        QCOMPARE(field(statistics, "statProfTotalField"), u"1034 m"_s);
-    }
-
-    void whatIsNoNumberIsStoredAsItStands() {
-        TestDesk desk;
-        const auto carnet = logbookOf(desk, {});
-        Statistics statistics(*carnet);
-        statistics.editor().setText(ControlName{"statSumBioField"}, u"a few"_s);
-        statistics.editor().setText(ControlName{"statSumTekField"}, u""_s);
-        statistics.editor().setText(ControlName{"statSumVideoField"}, u"-7,5"_s);
-        statistics.validateStatisticsValues();
-        const QJsonObject stored = desk.defaults.stored(valuesKey).toObject();
-        QCOMPARE(stored.value(u"bio"_s), QJsonValue(u"a few"_s));
-        QCOMPARE(stored.value(u"tek"_s), QJsonValue(u""_s));
-        QCOMPARE(stored.value(u"video"_s), QJsonValue(-7.5));
-        QCOMPARE(field(statistics, "statVideoField"), u"-7"_s);
-    }
-
-    void givingUpTheEditorStoresNothing() {
-        TestDesk desk;
-        const auto carnet = logbookOf(desk, {});
-        Statistics statistics(*carnet);
-        statistics.showEditStatisticsWindow();
-        statistics.editor().setText(ControlName{"statSumBioField"}, u"5"_s);
-        statistics.editor().press(u"closeEditStatisticsWindow"_s);
-        QVERIFY(!desk.defaults.contains(valuesKey));
-        statistics.showEditStatisticsWindow();
-        QCOMPARE(statistics.editor().text(ControlName{"statSumBioField"}), u"0"_s);
-    }
-
-    void anotherLogbooksEditorIsFollowed() {
-        TestDesk desk;
-        const auto first = logbookOf(desk, {}), second = logbookOf(desk, {});
-        Statistics edited(*first);
-        const Statistics other(*second);
-        edited.editor().setText(ControlName{"statSumDivesField"}, u"9"_s);
-        edited.validateStatisticsValues();
-        QCOMPARE(field(other, "statStateField"), u"Total dives: 9"_s);
-    }
-
     void theGraphGetsElevenShares() {
         TestDesk desk;
         desk.defaults.store(valuesKey,
@@ -267,6 +148,19 @@ private Q_SLOTS:
         const float third = 1.0F / 3.0F * 100, two = 2.0F / 3.0F * 100;
         const GraphesShares without{0, two, 0, 0, 0, third, 0, two, third, 0, 0};
         QVERIFY(statistics.shares() == without);
+    }
+
+    void everyShareOfTheGraphIsThatOfItsCount() {
+        TestDesk desk;
+        QJsonObject values{{u"total plongees"_s, 100}};
+        int count = 0;
+        for (const char* key : {"prof_1", "prof_2", "prof_3", "prof_4", "prof_5", "prof_6", "prof_7", "air",
+                                "nitrox", "trimix", "heliox"})
+            values.insert(QLatin1String(key), ++count);
+        desk.defaults.store(valuesKey, values);
+        const auto carnet = logbookOf(desk, {});
+        const Statistics statistics(*carnet);
+        for (std::size_t i = 0; i < 11; ++i) QCOMPARE(statistics.shares()[i], float(i + 1) / 100.0F * 100);
     }
 
     void withoutAnyDiveTheGraphDividesByZero() {

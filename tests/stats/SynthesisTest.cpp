@@ -1,102 +1,10 @@
-#include "stats/StatsTests.h"
-#include "stats/Synthesis.h"
+#include "stats/SynthesisReport.h"
 
 using namespace sargan;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const Strings keyed{Strings::Language::Keys};
-
-QStringList linesOf(const Plongee& dive, bool usUnits = false) {
-    return diveReport(dive, keyed, usUnits).plainText().split(u'\n');
-}
-
-/// The line that begins with this label; null when there is none.
-QString line(const Plongee& dive, const QString& label, bool usUnits = false) {
-    for (const QString& found : linesOf(dive, usUnits))
-        if (found.startsWith(label)) return found;
-    return {};
-}
-
-bool hasLine(const Plongee& dive, const QString& text) {
-    return linesOf(dive).contains(text);
-}
-
-Plongee fullDive() {
-    Plongee dive;
-    dive.setNoPlongee(12);
-    dive.setDate(Moment::fromIso(u"2016-06-07"_s));
-    dive.setLieu(u"Brest"_s);
-    dive.setSite(u"La Vandrée"_s);
-    dive.setPays(u"France"_s);
-    dive.setGps(u"N 48 W 004"_s);
-    dive.setGpsSystem(1);
-    dive.setCoeff(95);
-    dive.setPmBm(1);
-    dive.setEpaves(u"Emmy"_s);
-    dive.setPartenaires(u"Ann, Bob"_s);
-    dive.setStructure(u"Club"_s);
-    dive.setBateau(u"Albatros"_s);
-    dive.setMeteo(1);
-    dive.setVentSecteur(8);
-    dive.setVentForce(5);
-    dive.setCourant(2);
-    dive.setVisibilite(8);
-    dive.setTempEau(14);
-    dive.setTempAir(-3);
-    dive.setTypePlongee(0);
-    dive.setNocturne(1);
-    dive.setDifficulte(3);
-    dive.setProfondeur(38.5F);
-    dive.setTemps(47);
-    dive.setSurface(u"02:30"_s);
-    dive.setHeure(Moment::fromIso(u"2001-01-01T23:40:00"_s));
-    dive.setAltitude(250);
-    dive.setPAtm(1013);
-    dive.setOrdinateur(u"Deep One"_s);
-    dive.setLowGF(30);
-    dive.setHighGF(85);
-    dive.setDeco(1);
-    dive.setDecoSoftName(u"Planner"_s);
-    dive.setDecoAlgoType(u"ZHL16-C"_s);
-    dive.setDecoConservatism(u"+2"_s);
-    dive.setRuntime(u"RT 52"_s);
-    dive.setDeco_TTS(9);
-    dive.setConfiguration(1);
-    dive.setCombinaison(1);
-    dive.setEquip_1(u"Lamp"_s);
-    dive.setEquip_12(u"Reel"_s);
-    dive.setLestage(4.5F);
-    dive.setNotes(u"Calm sea.\nTwo seals."_s);
-    return dive;
-}
-
-void addCodes(std::initializer_list<const char*> words, int first = 0) {
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("word");
-    int code = first;
-    for (const char* word : words) {
-        QTest::addRow("%d %s", code, word) << code << QString::fromLatin1(word);
-        ++code;
-    }
-    QTest::newRow("beyond") << code << QString();
-    QTest::newRow("negative") << -1 << QString();
-}
-
-}  // namespace
-
 class SynthesisTest : public QObject {
     Q_OBJECT
-
-    template <class Setter>
-    void checkCode(Setter setter, const QString& label) {
-        QFETCH(int, code);
-        QFETCH(QString, word);
-        Plongee dive = fullDive();
-        (dive.*setter)(code);
-        QCOMPARE(line(dive, label), word.isNull() ? QString() : label + word);
-    }
 
 private Q_SLOTS:
     void aDiveIsReportedInOrder() {
@@ -199,69 +107,6 @@ private Q_SLOTS:
         QVERIFY(line(dive, u"Air temperature"_s).isNull());
     }
 
-    void weatherHasItsWords_data() {
-        addCodes({"Clear", "Cloudy", "Foggy", "Rainy", "Hail", "Snowy", "Thundery", "N/A"});
-    }
-    void weatherHasItsWords() { checkCode(&Plongee::setMeteo, u"Weather : "_s); }
-
-    void currentHasItsWords_data() {
-        addCodes({"None", "Weak", "Moderate", "Strong", "Very strong", "Violent", "N/A"});
-    }
-    void currentHasItsWords() { checkCode(&Plongee::setCourant, u"Current : "_s); }
-
-    void visibilityHasItsWords_data() {
-        addCodes({"Excellent", "Very good", "Good", "Medium", "Bad", "Very bad", "Execrable", "N/A",
-                  "Exceptional"});
-    }
-    void visibilityHasItsWords() { checkCode(&Plongee::setVisibilite, u"Visibility : "_s); }
-
-    void typesHaveTheirWords_data() {
-        addCodes({"Wreck", "Recreational", "NA", "Photo dive", "Tek", "Cave", "Movies", "Work", "Other",
-                  "Drift", "Under ice", "Training", "Biology", "Quarry", "Recuperation"});
-    }
-    void typesHaveTheirWords() { checkCode(&Plongee::setTypePlongee, u"Dive type : "_s); }
-
-    void windForceIsOneBelowItsCode() {
-        Plongee dive = fullDive();
-        dive.setVentForce(1);
-        QCOMPARE(line(dive, u"Wind :"_s), u"Wind : Wind sector North-west, Wind force 0"_s);
-        dive.setVentForce(0);
-        QCOMPARE(line(dive, u"Wind :"_s), u"Wind : No wind"_s);
-    }
-
-    void positionsNameTheirDatum() {
-        Plongee dive = fullDive();
-        dive.setGpsSystem(2);
-        QVERIFY(hasLine(dive, u"GPS (ED50) : N 48 W 004"_s));
-        dive.setGpsSystem(0);
-        QVERIFY(hasLine(dive, u"GPS (...) : N 48 W 004"_s));
-        dive.setGps(u"GPS template"_s);
-        QVERIFY(hasLine(dive, u"GPS (...) : "_s));
-    }
-
-    void tidesHaveTheirState() {
-        Plongee dive = fullDive();
-        dive.setPmBm(2);
-        QVERIFY(hasLine(dive, u"Tide coefficient : 95 (Basse mer)"_s));
-        dive.setPmBm(0);
-        QVERIFY(hasLine(dive, u"Tide coefficient : 95 (...)"_s));
-    }
-
-    void nightIsSaidOnlyOfNightDives() {
-        Plongee dive = fullDive();
-        dive.setNocturne(0);
-        QVERIFY(!hasLine(dive, u"Night"_s));
-    }
-
-    void difficultyStaysWithinItsFamily() {
-        Plongee dive = fullDive();
-        for (const auto& [level, word] :
-             {std::pair(0, "0"), std::pair(5, "5"), std::pair(9, "5"), std::pair(-2, "0")}) {
-            dive.setDifficulte(level);
-            QCOMPARE(line(dive, u"Difficulty"_s), u"Difficulty level : Cotation "_s + QLatin1String(word));
-        }
-    }
-
     void absentValuesLeaveTheirLabels() {
         const Plongee dive;
         QVERIFY(hasLine(dive, u"Location : "_s));
@@ -270,35 +115,6 @@ private Q_SLOTS:
         QVERIFY(!hasLine(dive, u"GF : 0/0"_s));
         QVERIFY(!hasLine(dive, u" Run Time"_s));
         QVERIFY(hasLine(dive, u"Air tables"_s));
-    }
-
-    void otherMethodsThanTablesNameNone() {
-        Plongee dive = fullDive();
-        dive.setDeco(2);
-        QVERIFY(!hasLine(dive, u"Air tables"_s) && !hasLine(dive, u"Nitrox tables"_s));
-    }
-
-    void suitsHaveTheirWords_data() {
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("word");
-        const char* words[] = {"Wet suit",      "Dry suit", "Shorty",       "No suit",
-                               "Semi-dry suit", "T-shirt",  "Tropical suit"};
-        for (int code = 0; code < 7; ++code)
-            QTest::newRow(words[code]) << code << QString::fromLatin1(words[code]);
-    }
-    void suitsHaveTheirWords() {
-        QFETCH(int, code);
-        QFETCH(QString, word);
-        Plongee dive = fullDive();
-        dive.setCombinaison(code);
-        const QStringList lines = linesOf(dive);
-        QCOMPARE(lines.value(lines.indexOf(u"Configuration : Tek configuration"_s) + 1), u"   - "_s + word);
-    }
-
-    void aDiveThatIsNotTechnicalIsSaidToBeNone() {
-        Plongee dive = fullDive();
-        dive.setConfiguration(0);
-        QVERIFY(hasLine(dive, u"Configuration : No Tek"_s));
     }
 
     void stylesAreRedBlueBlackAndUnderlined() {
@@ -311,6 +127,10 @@ private Q_SLOTS:
         QVERIFY(styleOf(u"General"_s) == (TextStyle{.color = inkcolor::red, .underline = true}));
         QVERIFY(styleOf(u"Location"_s) == TextStyle{.color = inkcolor::black});
         QVERIFY(styleOf(u"Brest"_s) == TextStyle{.color = inkcolor::blue});
+        for (const char* named : {"Weather", "GPS (WGS84) : ", "GF : ", "Tank_1"})
+            QVERIFY2(styleOf(QLatin1String(named)) == TextStyle{.color = inkcolor::black}, named);
+        for (const char* told : {"Cloudy", "N 48 W 004", "30/85", "Nitrox tables", "- Steel"})
+            QVERIFY2(styleOf(QLatin1String(told)) == TextStyle{.color = inkcolor::blue}, told);
         QVERIFY(styleOf(u"••"_s) == TextStyle{.color = inkcolor::black});
     }
 

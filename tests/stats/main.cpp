@@ -3,6 +3,7 @@
 
 int main(int argc, char** argv) {
     return runFontTests(argc, argv,
-                        {runStatisticsTotalsTest, runStatisticsTest, runStatisticsPageTest, runSynthesisTest,
+                        {runStatisticsCountersTest, runStatisticsTotalsTest, runStatisticsTest,
+                         runPreviousDivesTest, runStatisticsPageTest, runSynthesisTest, runSynthesisWordsTest,
                          runSynthesisGasTest, runGraphesTest, runStatsCommandTest});
 }

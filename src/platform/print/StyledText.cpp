@@ -20,6 +20,45 @@ QString withLineFeeds(QString text) {
     return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
 }
 
+/// As it is laid out: plain texts do without the tab of a hanging line.
+QString laidOut(const StyledText::Run& run) {
+    QString text = withLineFeeds(run.text);
+    return run.style.hanging ? text.replace(u'\n', u"\n\t"_s) : text;
+}
+
+/// A page in HTML has no tab stops: what stands in front of a tab is made as wide as its column.
+class HtmlColumns {
+public:
+    explicit HtmlColumns(const QList<qreal>& stops) : _stops(stops) {}
+
+    QString escaped(const QString& text) {
+        if (_stops.isEmpty()) return text.toHtmlEscaped();
+        QString html, piece;
+        for (const QChar c : text) {
+            if (c != u'\t' && c != u'\n') {
+                piece += c;
+                continue;
+            }
+            const QString words = piece.toHtmlEscaped();
+            html += c == u'\n' ? words + u'\n' : inColumn(words);
+            _column = c == u'\n' ? 0 : _column + 1;
+            piece.clear();
+        }
+        return html + piece.toHtmlEscaped();
+    }
+
+private:
+    QString inColumn(const QString& words) const {
+        const qreal start = _column > 0 ? _stops.value(_column - 1) : 0;
+        const qreal width = _column < _stops.size() ? _stops[_column] - start : usualTab;
+        return u"<span style=\"display:inline-block;min-width:%1em\">%2</span>"_s.arg(
+            QString::number(width / TextStyle().size, 'f', 2), words);
+    }
+
+    const QList<qreal>& _stops;
+    qsizetype _column = 0;
+};
+
 QString css(const TextStyle& style) {
     QString rules;
     if (style.color.isValid()) rules += u"color:"_s + style.color.name() + u';';
@@ -60,8 +99,9 @@ QString StyledText::plainText() const {
 
 QString StyledText::html(const QString& title) const {
     QString body;
+    HtmlColumns columns(_tabStops);
     for (const Run& run : _runs) {
-        const QString words = withLineFeeds(run.text).toHtmlEscaped();
+        const QString words = columns.escaped(laidOut(run));
         const QString rules = css(run.style);
         body += rules.isEmpty() ? words : u"<span style=\"%1\">%2</span>"_s.arg(rules, words);
     }
@@ -73,6 +113,11 @@ QString StyledText::html(const QString& title) const {
 }
 
 void StyledText::toDocument(QTextDocument& document) const {
+    startDocument(document);
+    appendRuns(document, 0, _runs.size());
+}
+
+void StyledText::startDocument(QTextDocument& document) const {
     document.clear();
     document.setUndoRedoEnabled(false);
     document.setDefaultFont(printFont(TextStyle().size));
@@ -84,10 +129,15 @@ void StyledText::toDocument(QTextDocument& document) const {
     QList<QTextOption::Tab> tabs;
     for (const qreal stop : _tabStops) tabs.append(QTextOption::Tab(stop, QTextOption::LeftTab));
     block.setTabPositions(tabs);
+    QTextCursor(&document).setBlockFormat(block);
+}
+
+void StyledText::appendRuns(QTextDocument& document, qsizetype first, qsizetype count) const {
     QTextCursor cursor(&document);
+    cursor.movePosition(QTextCursor::End);
     cursor.beginEditBlock();
-    cursor.setBlockFormat(block);
-    for (const Run& run : _runs) cursor.insertText(withLineFeeds(run.text), charFormat(run.style));
+    for (const Run& run : _runs.sliced(first, std::min(count, _runs.size() - first)))
+        cursor.insertText(laidOut(run), charFormat(run.style));
     cursor.endEditBlock();
 }
 

@@ -14,7 +14,8 @@ struct TextStyle {
     QColor color = {};  ///< invalid: the page's own
     bool bold = false;
     bool underline = false;
-    qreal size = 12;  ///< in units of the page: points before the scale of printing
+    qreal size = 12;       ///< in units of the page: points before the scale of printing
+    bool hanging = false;  ///< its second and further lines begin at the text's first tab stop
 
     friend bool operator==(const TextStyle&, const TextStyle&) = default;
 };
@@ -52,6 +53,9 @@ public:
     QString html(const QString& title) const;
     /// Replaces the document's content. Its fonts are those of printing.
     void toDocument(QTextDocument& document) const;
+    /// The same in pieces, for a long text on screen: an empty document, then so many runs at a time.
+    void startDocument(QTextDocument& document) const;
+    void appendRuns(QTextDocument& document, qsizetype first, qsizetype count) const;
 
     friend bool operator==(const StyledText&, const StyledText&) = default;
 

@@ -5,6 +5,8 @@
 #include <QTextLayout>
 #include <memory>
 
+#include "platform/document/CellInk.h"
+#include "platform/document/ColumnOrder.h"
 #include "platform/print/StyledText.h"
 #include "platform/print/TextPages.h"
 
@@ -25,29 +27,22 @@ qreal sumOf(const std::vector<qreal>& widths) {
     return sum;
 }
 
-/// Widths that fit on the page: columns that are wider than an even share of what is left are cut to it.
-std::vector<qreal> fitted(std::vector<qreal> widths, qreal room) {
-    if (sumOf(widths) <= room) return widths;
-    std::vector<bool> isKept(widths.size(), false);
-    for (bool changed = true; changed;) {
-        changed = false;
-        qreal left = room;
-        int open = 0;
-        for (std::size_t i = 0; i < widths.size(); ++i) {
-            if (isKept[i])
-                left -= widths[i];
-            else
-                ++open;
-        }
-        if (open == 0) break;
-        const qreal share = std::max(left / open, narrowest);
-        for (std::size_t i = 0; i < widths.size(); ++i)
-            if (!isKept[i] && widths[i] <= share) isKept[i] = changed = true;
-        if (!changed)
-            for (std::size_t i = 0; i < widths.size(); ++i)
-                if (!isKept[i]) widths[i] = share;
+/// Widths that fit on the page: wide columns are cut to one width, but none below its longest word as long as
+/// all words have room.
+std::vector<qreal> fitted(const std::vector<qreal>& widths, std::vector<qreal> words, qreal room) {
+    if (sumOf(words) > room) words.assign(widths.size(), narrowest);
+    const auto cutTo = [&](qreal most) {
+        std::vector<qreal> cut = widths;
+        for (std::size_t i = 0; i < cut.size(); ++i)
+            cut[i] = std::max(std::min(cut[i], most), std::min(cut[i], words[i]));
+        return cut;
+    };
+    qreal fits = 0, tooWide = room;
+    while (tooWide - fits > 0.25) {
+        const qreal middle = (fits + tooWide) / 2;
+        (sumOf(cutTo(middle)) <= room ? fits : tooWide) = middle;
     }
-    return widths;
+    return cutTo(fits);
 }
 
 /// Breaks the text into lines of this width; answers their height.
@@ -70,9 +65,15 @@ qreal layOut(QTextLayout& layout, qreal width, Qt::Alignment alignment) {
 /// One layout of a table: column widths, row heights, and which rows stand on which page.
 class TableSetting {
 public:
-    TableSetting(const TableSource& table, const Strings& strings, const QString& title, QSizeF area)
-        : _table(table), _columns(table.tableColumns()), _title(title), _area(area) {
-        for (const TableColumn& column : _columns) _titles << strings.text(column.title);
+    TableSetting(const TableSource& table, const Strings& strings, const QString& title,
+                 const QStringList& order, QSizeF area)
+        : _table(table), _title(title), _area(area) {
+        const QList<TableColumn> columns = table.tableColumns();
+        _places = placesInOrder(columns, order);
+        for (const int place : std::as_const(_places)) {
+            _columns << columns[place];
+            _titles << strings.text(columns[place].title);
+        }
         measureColumns();
         measureRows();
     }
@@ -89,6 +90,7 @@ public:
     }
 
 private:
+    TableCell cell(qsizetype row, int column) const { return _table.tableCell(row, _places[column]); }
     const QFontMetricsF& metrics(bool bold) const { return bold ? _bold : _plain; }
     qreal widthOf(const QString& text, bool bold) const {
         qreal widest = 0;
@@ -96,17 +98,28 @@ private:
             widest = std::max(widest, metrics(bold).horizontalAdvance(line.toString()));
         return std::ceil(widest) + 2 * padding + 1;
     }
+    /// Of its longest word.
+    qreal wordWidthOf(QString text, bool bold) const { return widthOf(text.replace(u' ', u'\n'), bold); }
 
     void measureColumns() {
+        _widths = widest([this](const QString& text, bool bold) { return widthOf(text, bold); });
+        if (sumOf(_widths) <= _area.width()) return;
+        const auto words = widest([this](const QString& text, bool bold) { return wordWidthOf(text, bold); });
+        _widths = fitted(_widths, words, _area.width());
+    }
+
+    /// The greatest width of each column's title and texts.
+    template <class Width>
+    std::vector<qreal> widest(Width width) const {
         std::vector<qreal> widths;
-        for (const QString& title : _titles) widths.push_back(widthOf(title, true));
+        for (const QString& title : _titles) widths.push_back(width(title, true));
         for (qsizetype row = 0; row < _table.tableRows(); ++row)
             for (int i = 0; i < int(_columns.size()); ++i) {
-                const TableCell cell = _table.tableCell(row, i);
-                qreal& width = widths[std::size_t(i)];
-                width = std::max(width, widthOf(cell.text, cell.bold));
+                const TableCell shown = cell(row, i);
+                qreal& found = widths[std::size_t(i)];
+                found = std::max(found, width(shown.text, shown.bold));
             }
-        _widths = fitted(std::move(widths), _area.width());
+        return widths;
     }
 
     qreal heightOf(const QString& text, bool bold, std::size_t column) const {
@@ -130,8 +143,8 @@ private:
         for (qsizetype row = 0; row < _table.tableRows(); ++row) {
             qreal height = 0;
             for (int i = 0; i < int(_columns.size()); ++i) {
-                const TableCell cell = _table.tableCell(row, i);
-                height = std::max(height, heightOf(cell.text, cell.bold, std::size_t(i)));
+                const TableCell shown = cell(row, i);
+                height = std::max(height, heightOf(shown.text, shown.bold, std::size_t(i)));
             }
             height = std::min(height, room);
             if (used > 0 && used + height > room) {
@@ -147,10 +160,10 @@ private:
         qreal left = 0;
         for (int i = 0; i < int(_columns.size()); ++i) {
             const QRectF box(left, 0, _widths[std::size_t(i)], _headerHeight);
-            TableCell cell{_titles[i]};
-            cell.bold = true;
-            cell.background = headerColor;
-            drawCell(painter, box, cell, _columns[i].alignment);
+            TableCell title{_titles[i]};
+            title.bold = true;
+            title.background = headerColor;
+            drawCell(painter, box, title, _columns[i].alignment);
             left = box.right();
         }
         return _headerHeight;
@@ -161,7 +174,7 @@ private:
         qreal left = 0;
         for (int i = 0; i < int(_columns.size()); ++i) {
             const QRectF box(left, top, _widths[std::size_t(i)], height);
-            drawCell(painter, box, _table.tableCell(row, i), _columns[i].alignment);
+            drawCell(painter, box, cell(row, i), _columns[i].alignment);
             left = box.right();
         }
         return top + height;
@@ -177,7 +190,8 @@ private:
         }
         painter.setPen(QPen(lineColor, 0.5));
         painter.drawRect(box);
-        painter.setPen(cell.color.isValid() ? cell.color : inkcolor::black);
+        const QColor ink = inkOf(cell);
+        painter.setPen(ink.isValid() ? ink : inkcolor::black);
         const QRectF inner = box.adjusted(padding, padding, -padding, -padding);
         QTextLayout layout(cell.text, cell.bold ? _boldFont : _plainFont);
         const qreal height = layOut(layout, inner.width(), alignment);
@@ -189,7 +203,8 @@ private:
     }
 
     const TableSource& _table;
-    QList<TableColumn> _columns;
+    QList<int> _places;           ///< of the columns in the source, from left to right
+    QList<TableColumn> _columns;  ///< from left to right
     QStringList _titles;
     QString _title;
     QSizeF _area;
@@ -206,7 +221,7 @@ private:
 }  // namespace
 
 Pages TablePages::pages(QSizeF area) const {
-    const auto setting = std::make_shared<TableSetting>(_table, _strings, _title, area);
+    const auto setting = std::make_shared<TableSetting>(_table, _strings, _title, _columnOrder, area);
     return {setting->pageCount(), [setting](QPainter& painter, int page) { setting->draw(painter, page); }};
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QStringList>
+
 #include "platform/document/TableSource.h"
 #include "platform/print/Printable.h"
 #include "platform/text/Strings.h"
@@ -10,9 +12,10 @@ namespace sargan {
 /// header on every page, title and page number below. Cells too wide for the page are wrapped, never cut.
 class TablePages : public Printable {
 public:
-    /// All three must outlive what is printed with them.
-    TablePages(const TableSource& table, const Strings& strings, QString title)
-        : _table(table), _strings(strings), _title(std::move(title)) {}
+    /// Table and strings must outlive what is printed with them.
+    /// `columnOrder`: identifiers from left to right, as the list's window shows them.
+    TablePages(const TableSource& table, const Strings& strings, QString title, QStringList columnOrder = {})
+        : _table(table), _strings(strings), _title(std::move(title)), _columnOrder(std::move(columnOrder)) {}
 
     QString title() const override { return _title; }
     QPageLayout::Orientation orientation() const override { return QPageLayout::Landscape; }
@@ -22,6 +25,7 @@ private:
     const TableSource& _table;
     const Strings& _strings;
     QString _title;
+    QStringList _columnOrder;
 };
 
 }  // namespace sargan

@@ -7,7 +7,7 @@ namespace sargan {
 
 class FormView;
 
-/// The editor of the dives made before the logbook.
+/// The editor of the dives made before the logbook. Return stores them, Escape gives up.
 class PreviousDivesWindow : public AuxiliaryWindow {
     Q_OBJECT
 
@@ -18,8 +18,11 @@ public:
 
 protected:
     void build() override;
+    void showEvent(QShowEvent* event) override;
 
 private:
+    void pressReturn();
+
     Statistics& _statistics;
     FormView* _view = nullptr;
 };

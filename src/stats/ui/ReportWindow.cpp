@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShowEvent>
 #include <QToolBar>
 
@@ -12,6 +13,13 @@ namespace sargan {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// A few dives; laying them out takes the time of a frame or two.
+constexpr qsizetype runsAtOnce = 300;
+
+}  // namespace
+
 ReportWindow::ReportWindow(Desk& desk, const QString& frameName, const char* view, const char* printName,
                            std::function<std::optional<Report>()> source)
     : AuxiliaryWindow(desk, frameName), _viewName(view), _printName(printName), _source(std::move(source)) {
@@ -20,6 +28,7 @@ ReportWindow::ReportWindow(Desk& desk, const QString& frameName, const char* vie
         return askWhereToWrite(this, this->desk().strings.ui("Save Report"), suggested,
                                {u"PDF (*.pdf)"_s, u"HTML (*.html)"_s, u"TXT (*.txt)"_s});
     };
+    connect(&_more, &QTimer::timeout, this, &ReportWindow::showMore);
     build();
     if (!restorePlace()) resize(QSize(620, 680).boundedTo(screen()->availableSize() - QSize(20, 40)));
 }
@@ -55,6 +64,8 @@ void ReportWindow::build() {
 
 void ReportWindow::open() {
     fill();
+    _wantedScroll = 0;
+    _view->verticalScrollBar()->setValue(0);
     bringToFront();
     _view->setFocus();
 }
@@ -73,11 +84,28 @@ void ReportWindow::fill() {
         const bool isSame = report->text == _report.text;
         _report = std::move(*report);
         setWindowTitle(_report.title);
+        _view->setAccessibleName(_report.title);
         if (isSame && !_view->document()->isEmpty()) return;
     }
-    _report.text.toDocument(*_view->document());
+    _wantedScroll = std::max(_wantedScroll, _view->verticalScrollBar()->value());
+    _shownRuns = 0;
+    _report.text.startDocument(*_view->document());
     _view->document()->setDocumentMargin(12);
-    _view->moveCursor(QTextCursor::Start);
+    _more.start();
+    showMore();
+}
+
+void ReportWindow::showMore() {
+    const bool isFirst = _shownRuns == 0;
+    _report.text.appendRuns(*_view->document(), _shownRuns, runsAtOnce);
+    // The reader's cursor stood where the text came in.
+    if (isFirst) _view->moveCursor(QTextCursor::Start);
+    _shownRuns = std::min(_shownRuns + runsAtOnce, _report.text.runs().size());
+    QScrollBar* bar = _view->verticalScrollBar();
+    if (isComplete()) _more.stop();
+    if (_wantedScroll == 0 || (bar->maximum() < _wantedScroll && !isComplete())) return;
+    bar->setValue(_wantedScroll);
+    _wantedScroll = 0;
 }
 
 std::unique_ptr<Printable> ReportWindow::printable() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTextBrowser>
+#include <QTimer>
 
 #include "platform/print/StyledText.h"
 #include "platform/ui/Printing.h"
@@ -33,6 +34,9 @@ public:
 
     /// Writes the report; the name's ending says in which format. What goes wrong is alerted.
     bool saveReport(const QString& path);
+    /// Whether the view holds the whole report already: a long one comes piece by piece, and the window
+    /// answers meanwhile.
+    bool isComplete() const { return _shownRuns == _report.text.runs().size(); }
     /// Asks where to save; tests answer in its place.
     std::function<QString(const QString& suggested)> chooseFile;
 
@@ -42,12 +46,16 @@ protected:
 
 private:
     void fill();
+    void showMore();
     std::unique_ptr<Printable> printable() const;
 
     const char* _viewName;
     const char* _printName;
     std::function<std::optional<Report>()> _source;
     Report _report;
+    qsizetype _shownRuns = 0;  ///< of the report
+    int _wantedScroll = 0;     ///< where the reader was before the report came anew
+    QTimer _more;
     QTextBrowser* _view = nullptr;
     PrintActions* _printing = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "stats/ui/StatisticsWindow.h"
 
 #include <QScreen>
+#include <QShowEvent>
 #include <QToolBar>
 
 #include "platform/ui/FormView.h"
@@ -31,6 +32,11 @@ void StatisticsWindow::build() {
     _statistics.updateStatistics();
     _view = new FormView(_statistics.panel(), statisticsLayout(), desk());
     setCentralWidget(_view);
+}
+
+void StatisticsWindow::showEvent(QShowEvent* event) {
+    AuxiliaryWindow::showEvent(event);
+    if (!event->spontaneous()) _view->takeFocus();
 }
 
 }  // namespace sargan

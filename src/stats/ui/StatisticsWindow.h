@@ -22,6 +22,7 @@ public:
 
 protected:
     void build() override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     Statistics& _statistics;

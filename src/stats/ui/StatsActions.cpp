@@ -7,18 +7,25 @@
 #include "logbook/ui/LogbookWindow.h"
 #include "platform/print/TablePages.h"
 #include "platform/ui/Icons.h"
-#include "stats/ui/GraphesWindow.h"
-#include "stats/ui/PreviousDivesWindow.h"
-#include "stats/ui/ReportWindow.h"
-#include "stats/ui/StatisticsWindow.h"
-#include "stats/ui/SynthesisChooser.h"
+#include "platform/ui/SourceTableView.h"
 
 namespace sargan {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Those of the window whose place this one takes, or new ones.
+std::shared_ptr<StatsWindows> windowsOf(LogbookWindow& window) {
+    std::shared_ptr<QObject>& kept = window.companions[u"stats"_s];
+    if (!kept) kept = std::make_shared<StatsWindows>(window.carnet());
+    return std::static_pointer_cast<StatsWindows>(kept);
+}
+
+}  // namespace
+
 StatsActions::StatsActions(LogbookWindow& window)
-    : QObject(&window), _window(window), _desk(window.carnet().desk()), _synthesis(window.carnet()) {
+    : QObject(&window), _window(window), _desk(window.carnet().desk()), _windows(windowsOf(window)) {
     setObjectName(u"stats"_s);
     const Strings& words = _desk.strings;
     _synthese = make("synthese", "texte", words.text({"Main", "Synthesis card"}),
@@ -30,21 +37,14 @@ StatsActions::StatsActions(LogbookWindow& window)
     _graphesAction = make("graphes", "statistics", words.ui("Statistics graphs"),
                           words.ui("Depths and gases as bars"), &StatsActions::graphesWindow);
     _printing = new PrintActions("printLogbook", words.ui("Print the list…"), _desk, &window, [this] {
+        _window.storePending();
         return std::make_unique<TablePages>(*_window.carnet().table(), _desk.strings,
-                                            _window.carnet().displayName());
+                                            _window.carnet().displayName(), _window.table().columnOrder());
     });
-    _synthesis.onShowChooser = [this] { _chooser->open(); };
-    _synthesis.onCloseChooser = [this] { _chooser->close(); };
-    _synthesis.onShowReport = [this](const StyledText&) { showReport(); };
     addToToolbar();
-    connect(&window.carnet(), &Document::contentChanged, this, &StatsActions::refreshReports);
-    connect(&window.carnet(), &Document::selectionChanged, this, [this] {
-        if (_report && !_synthesis.wantsAll()) _report->refresh();
-    });
-    // The units of the reports are a setting.
-    for (const char* name : {"updateTableView", "updateEditDive"})
-        _observations.push_back(
-            _desk.notifications.observe(QLatin1String(name), [this](const void*) { refreshReports(); }));
+    connect(&window.carnet(), &Document::contentChanged, this, &StatsActions::validate);
+    connect(&window, &DocumentWindow::replaced, this, [this] { _windows->detach(); });
+    _windows->attachTo(window, {_pageAction, _graphesAction});
     validate();
 }
 
@@ -80,64 +80,22 @@ void StatsActions::addPrintingTo(QMenu* file, QAction* before) {
 
 void StatsActions::divesForSynthesisWindow() {
     _window.storePending();
-    if (!_chooser) _chooser = new SynthesisChooser(_synthesis, &_window);
-    _synthesis.divesForSynthesisWindow();
-}
-
-void StatsActions::showReport() {
-    if (!_report)
-        _report = std::make_unique<ReportWindow>(
-            _desk, u"Synthese"_s, "syntheseField", "printSynthesis",
-            [this]() -> std::optional<ReportWindow::Report> {
-                std::optional<StyledText> text = _synthesis.fillSynthesisWindow();
-                if (!text) return std::nullopt;
-                return ReportWindow::Report{*std::move(text), _desk.strings.text({"Main", "Synthesis card"}) +
-                                                                  u" – "_s + _window.carnet().displayName()};
-            });
-    _report->open();
-}
-
-Statistics& StatsActions::statistics() {
-    if (!_statistics) {
-        _statistics = std::make_unique<Statistics>(_window.carnet());
-        _previous = std::make_unique<PreviousDivesWindow>(*_statistics);
-        connect(_statistics.get(), &Statistics::sharesChanged, this, [this] {
-            if (_page) _page->refresh();
-        });
-    }
-    return *_statistics;
+    _windows->openChooser();
 }
 
 void StatsActions::statisticsWindow() {
     _window.storePending();
-    if (!_panel) {
-        _panel = std::make_unique<StatisticsWindow>(statistics());
-        _panel->setTools({_pageAction, _graphesAction});
-    }
-    _panel->open();
+    _windows->openStatistics();
 }
 
 void StatsActions::statsSynthesisWindow() {
     _window.storePending();
-    if (!_page)
-        _page = std::make_unique<ReportWindow>(
-            _desk, u"SynthStat"_s, "statisticsField", "printStatistics", [this] {
-                return std::make_optional(ReportWindow::Report{
-                    statistics().fillStatisticsField(), _desk.strings.text({"Carnet", "Statistics"}) +
-                                                            u" – "_s + _window.carnet().displayName()});
-            });
-    _page->open();
+    _windows->openPage();
 }
 
 void StatsActions::graphesWindow() {
     _window.storePending();
-    if (!_graphes) _graphes = std::make_unique<GraphesWindow>(statistics());
-    _graphes->open();
-}
-
-void StatsActions::refreshReports() {
-    validate();
-    if (_report) _report->refresh();
+    _windows->openGraphes();
 }
 
 void StatsActions::validate() {

@@ -98,6 +98,36 @@ private Q_SLOTS:
         }
     }
 
+    void hangingLinesBeginAtTheFirstStop() {
+        StyledText text;
+        text.append(u"Time :\t"_s);
+        text.append(u"2 h\r(120 min.)"_s, {.hanging = true});
+        text.setTabStops({200});
+        QTextDocument document;
+        text.toDocument(document);
+        document.setPageSize({800, 600});
+        document.pageCount();
+        const QTextBlock second = document.begin().next();
+        QCOMPARE(second.layout()->lineAt(0).cursorToX(1), 200.0);
+        QCOMPARE(text.plainText(), u"Time :\t2 h\n(120 min.)"_s);
+    }
+
+    void columnsOfHtmlAreAsWideAsTheStopsAreApart() {
+        StyledText text;
+        text.append(u"a & b :\t"_s);
+        text.append(u"1\t\t(2)\nc\t3"_s, title);
+        text.setTabStops({240, 300});
+        const auto column = [](const char* width, const char* words) {
+            return u"<span style=\"display:inline-block;min-width:%1em\">%2</span>"_s.arg(
+                QLatin1String(width), QLatin1String(words));
+        };
+        // Of twelfths: 240 from the margin to the first stop, 60 to the second, 40 from there on.
+        const QString html = text.html(u"t"_s);
+        QVERIFY(html.contains(u"<body>"_s + column("20.00", "a &amp; b :") + u"<span"_s));
+        QVERIFY(html.contains(column("5.00", "1") + column("3.33", "") + u"(2)\n"_s));
+        QVERIFY(html.contains(column("20.00", "c") + u"3</span>"_s));
+    }
+
     void unknownFormatsAreRefused() {
         QVERIFY_THROWS_EXCEPTION(std::invalid_argument, bytesOf(sample(), u"t"_s, u"doc"_s));
         QVERIFY_THROWS_EXCEPTION(std::invalid_argument, bytesOf(sample(), u"t"_s, u""_s));

@@ -102,6 +102,19 @@ private Q_SLOTS:
         QVERIFY(read.contains(u"n2 Brest calm"_s));
     }
 
+    void wordsAreBrokenOnlyWhenTheyHaveNoRoom() {
+        const QString word(75, u'w');  // more than half a page
+        List list(1);
+        list.special = 0;
+        list.specialCells[1].text = word;
+        list.specialCells[2].text = u"many short words "_s.repeated(40);
+        QVERIFY(pdf::words(pdfOfList(list)).contains(word));
+        list.specialCells[2].text = word;
+        const QString both = pdf::words(pdfOfList(list));
+        QVERIFY(!both.contains(word));
+        QCOMPARE(both.count(u'w'), 150);
+    }
+
     void aRowHigherThanAPageIsCutToThePage() {
         List list(3);
         list.special = 1;
@@ -119,6 +132,36 @@ private Q_SLOTS:
         QVERIFY(pixelsOf(firstPage(list), paint) > 200);
         list.specialCells[1] = {.text = u"XXXXX"_s, .color = paint, .bold = true};
         QVERIFY(pixelsOf(firstPage(list), paint) > 5);
+    }
+
+    void columnsStandAsInTheWindow() {
+        const List list(1);
+        const QByteArray bytes =
+            pdfOf(TablePages(list, english, u"My list"_s, {u"notes"_s, u"gone"_s, u"no"_s}));
+        // "place" is not named: it keeps the second place.
+        QCOMPARE(pdf::words(bytes), u"Notes Place Number calm Brest n0 My list 1/1"_s);
+    }
+
+    void blackOnADarkBackgroundIsPrintedWhite() {
+        const QColor night(0, 0, 77);
+        List list(1);
+        list.special = 0;
+        const auto lightestOnNight = [&](const QColor& color) {
+            list.specialCells[1] = {.text = u"XXXXXXXX"_s, .color = color, .background = night, .bold = true};
+            const QImage image = firstPage(list);
+            QRect area;
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = 0; x < image.width(); ++x)
+                    if (image.pixelColor(x, y) == night) area |= QRect(x, y, 1, 1);
+            int lightest = 0;
+            for (int y = area.top() + 2; y < area.bottom() - 1; ++y)
+                for (int x = area.left() + 2; x < area.right() - 1; ++x)
+                    lightest = std::max(lightest, qGray(image.pixel(x, y)));
+            return lightest;
+        };
+        QVERIFY(lightestOnNight(Qt::black) > 200);
+        QVERIFY(lightestOnNight({}) > 200);
+        QVERIFY(lightestOnNight(QColor(60, 60, 60)) < 100);
     }
 
     void gaugesAreBarsOfTheirShare() {

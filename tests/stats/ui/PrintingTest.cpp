@@ -1,6 +1,7 @@
 #include <QPrinter>
 
 #include "platform/ui/PrintPreview.h"
+#include "platform/ui/SourceTableView.h"
 #include "stats/ui/StatsUiTests.h"
 #include "support/PdfText.h"
 
@@ -35,6 +36,31 @@ private Q_SLOTS:
         const QString words = pdf::words(bytes);
         for (int depth : {10, 20, 30}) QVERIFY(words.contains(u"Place at %1 m"_s.arg(depth)));
         QVERIFY(words.endsWith(u"Untitled 1/1"_s));
+    }
+
+    void theListIsPrintedAsTheWindowShowsIt() {
+        StatsOnScreen screen(1);
+        QHeaderView* header = screen.window->table().horizontalHeader();
+        header->moveSection(header->visualIndex(screen.window->table().list().columnNamed(u"lieu"_s)), 0);
+        for (const QString& hidden : {u"column date"_s, u"column heure"_s})
+            screen.desk.defaults.store(hidden, false);
+        screen.desk.notifications.post(u"updateColumnsTableView"_s, nullptr);
+        const Folder folder;
+        screen.stats->printing().file = [&](const QString&) { return folder.path(u"l.pdf"_s); };
+        screen.action("savePdf")->trigger();
+        const QString words = pdf::words(folder.content(u"l.pdf"_s));
+        QVERIFY2(words.startsWith(u"Place No. Site Depth Duration"_s), qPrintable(words));
+    }
+
+    void whatWasTypedIsPrinted() {
+        StatsOnScreen screen(1);
+        screen.carnet->select({0});
+        screen.window->editWindow();
+        screen.carnet->form().setText(ControlName{"siteField"}, u"Donator"_s);
+        const Folder folder;
+        screen.stats->printing().file = [&](const QString&) { return folder.path(u"l.pdf"_s); };
+        screen.action("savePdf")->trigger();
+        QVERIFY(pdf::words(folder.content(u"l.pdf"_s)).contains(u"Donator"_s));
     }
 
     void reportsArePrintedUpright_data() {

@@ -69,6 +69,31 @@ private Q_SLOTS:
         QVERIFY(!screen.desk.defaults.contains(u"statistics values"_s));
     }
 
+    void returnStoresPreviousDivesUnlessItIsPressedOnCancel() {
+        StatsOnScreen screen(1);
+        screen.pressTool("statistics");
+        StatisticsWindow* panel = screen.stats->statisticsWindowIfMade();
+        QVERIFY(QTest::qWaitForWindowActive(panel));
+        QCOMPARE(panel->focusWidget()->objectName(), u"previousDivesNoSwitch"_s);
+        pressButton(panel, "showEditStatisticsWindow");
+        PreviousDivesWindow* editor = screen.stats->previousDivesIfMade();
+        QVERIFY(QTest::qWaitForWindowActive(editor));
+        // The keyboard is in the first field, whose 0 is replaced by what is typed.
+        QCOMPARE(editor->focusWidget()->objectName(), u"statSumBioField"_s);
+        QTest::keyClicks(editor->focusWidget(), u"3"_s);
+        editor->findChild<QPushButton*>(u"closeEditStatisticsWindow"_s)->setFocus();
+        QTest::keyClick(editor->focusWidget(), Qt::Key_Return);
+        QVERIFY(!editor->isVisible());
+        QCOMPARE(label(panel, "statBioField"), u"0"_s);
+
+        pressButton(panel, "showEditStatisticsWindow");
+        QVERIFY(QTest::qWaitForWindowActive(editor));
+        QTest::keyClicks(editor->focusWidget(), u"7"_s);
+        QTest::keyClick(editor->focusWidget(), Qt::Key_Return);
+        QVERIFY(!editor->isVisible());
+        QCOMPARE(label(panel, "statBioField"), u"7"_s);
+    }
+
     void thePageShowsWhatThePanelShows() {
         StatsOnScreen screen(2);
         screen.action("statsSynthesis")->trigger();

@@ -1,3 +1,5 @@
+#include <QScrollBar>
+
 #include "stats/ui/StatsUiTests.h"
 
 using namespace sargan;
@@ -44,6 +46,35 @@ private Q_SLOTS:
         pressButton(screen.stats->chooserIfMade(), "syntheseWindow");
         for (int number = 1; number <= 3; ++number)
             QVERIFY(reportOf(screen).contains(u"Dive number : %1\n"_s.arg(number)));
+    }
+
+    void aLongReportComesInPiecesAndKeepsItsPlace() {
+        StatsOnScreen screen(120);
+        screen.carnet->select({0});
+        screen.pressTool("synthese");
+        QTest::mouseClick(choice(screen, 1), Qt::LeftButton);
+        pressButton(screen.stats->chooserIfMade(), "syntheseWindow");
+        ReportWindow* report = screen.stats->synthesisReportIfMade();
+        QVERIFY(reportOf(screen).startsWith(u"Dive number : 1\n"_s));
+        QVERIFY(!report->isComplete());
+        // What is printed or saved meanwhile is the whole.
+        const Folder folder;
+        QVERIFY(report->saveReport(folder.path(u"r.txt"_s)));
+        QVERIFY(folder.content(u"r.txt"_s).contains("Dive number : 120\n"));
+        QTRY_VERIFY(report->isComplete());
+        QCOMPARE(reportOf(screen).trimmed().toUtf8(), folder.content(u"r.txt"_s).trimmed());
+
+        QScrollBar* bar = report->view().verticalScrollBar();
+        QCOMPARE(bar->value(), 0);
+        const int place = bar->maximum() / 2;
+        bar->setValue(place);
+        screen.carnet->form().setText(screen.carnet->form().find(u"lieuField"), u"Elsewhere"_s);
+        screen.carnet->updateDive();
+        QTRY_VERIFY(report->isComplete());
+        QVERIFY(reportOf(screen).contains(u"Place : Elsewhere\n"_s));
+        QCOMPARE(bar->value(), place);
+        report->open();
+        QCOMPARE(bar->value(), 0);
     }
 
     void withoutASelectedDiveItCannotBeWanted() {
