@@ -454,6 +454,10 @@
         <source>Interventions</source>
         <translation>%d interventions</translation>
     </message>
+    <message>
+        <source>Soda time</source>
+        <translation>Absorbent time</translation>
+    </message>
 </context>
 <context>
     <name>Materiel</name>
@@ -600,6 +604,10 @@
 </context>
 <context>
     <name>Interface</name>
+    <message>
+        <source>List of cards</source>
+        <translation>List of cards</translation>
+    </message>
     <message>
         <source>&amp;Card</source>
         <translation>&amp;Card</translation>
@@ -1565,10 +1573,6 @@
         <translation>How many</translation>
     </message>
     <message>
-        <source>Cells: type, fitted on, end of life, life used</source>
-        <translation>Cells: type, fitted on, end of life, life used</translation>
-    </message>
-    <message>
         <source>Cell 1</source>
         <translation>Cell 1</translation>
     </message>
@@ -1611,6 +1615,78 @@
     <message>
         <source>Loop valves</source>
         <translation>Loop valves</translation>
+    </message>
+    <message>
+        <source>Choose a page</source>
+        <translation>Choose a page</translation>
+    </message>
+    <message>
+        <source>&amp;Page</source>
+        <translation>&amp;Page</translation>
+    </message>
+    <message>
+        <source>Cells fitted</source>
+        <translation>Cells fitted</translation>
+    </message>
+    <message>
+        <source>Cell type</source>
+        <translation>Cell type</translation>
+    </message>
+    <message>
+        <source>Fitted on</source>
+        <translation>Fitted on</translation>
+    </message>
+    <message>
+        <source>End of life</source>
+        <translation>End of life</translation>
+    </message>
+    <message>
+        <source>Life used</source>
+        <translation>Life used</translation>
+    </message>
+    <message>
+        <source>Offer 1</source>
+        <translation>Offer 1</translation>
+    </message>
+    <message>
+        <source>Offer 2</source>
+        <translation>Offer 2</translation>
+    </message>
+    <message>
+        <source>Offer 3</source>
+        <translation>Offer 3</translation>
+    </message>
+    <message>
+        <source>Offer 4</source>
+        <translation>Offer 4</translation>
+    </message>
+    <message>
+        <source>Offer 5</source>
+        <translation>Offer 5</translation>
+    </message>
+    <message>
+        <source>Course 1</source>
+        <translation>Course 1</translation>
+    </message>
+    <message>
+        <source>Course 2</source>
+        <translation>Course 2</translation>
+    </message>
+    <message>
+        <source>Course 3</source>
+        <translation>Course 3</translation>
+    </message>
+    <message>
+        <source>Course 4</source>
+        <translation>Course 4</translation>
+    </message>
+    <message>
+        <source>Course 5</source>
+        <translation>Course 5</translation>
+    </message>
+    <message>
+        <source>Course 6</source>
+        <translation>Course 6</translation>
     </message>
 </context>
 <context>
@@ -2184,10 +2260,6 @@
     <message>
         <source>Rebreather time</source>
         <translation>Loop time</translation>
-    </message>
-    <message>
-        <source>Soda time label</source>
-        <translation>Absorbent time</translation>
     </message>
     <message>
         <source>Remarks</source>

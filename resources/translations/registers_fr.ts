@@ -454,6 +454,10 @@
         <source>Interventions</source>
         <translation>%d interventions</translation>
     </message>
+    <message>
+        <source>Soda time</source>
+        <translation>Temps de chaux</translation>
+    </message>
 </context>
 <context>
     <name>Materiel</name>
@@ -600,6 +604,10 @@
 </context>
 <context>
     <name>Interface</name>
+    <message>
+        <source>List of cards</source>
+        <translation>Liste des fiches</translation>
+    </message>
     <message>
         <source>&amp;Card</source>
         <translation>Fi&amp;che</translation>
@@ -1565,10 +1573,6 @@
         <translation>Nombre</translation>
     </message>
     <message>
-        <source>Cells: type, fitted on, end of life, life used</source>
-        <translation>Cellules : type, posée le, fin de vie, vie écoulée</translation>
-    </message>
-    <message>
         <source>Cell 1</source>
         <translation>Cellule 1</translation>
     </message>
@@ -1611,6 +1615,78 @@
     <message>
         <source>Loop valves</source>
         <translation>Clapets</translation>
+    </message>
+    <message>
+        <source>Choose a page</source>
+        <translation>Choisir une page</translation>
+    </message>
+    <message>
+        <source>&amp;Page</source>
+        <translation>&amp;Page</translation>
+    </message>
+    <message>
+        <source>Cells fitted</source>
+        <translation>Cellules posées</translation>
+    </message>
+    <message>
+        <source>Cell type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Fitted on</source>
+        <translation>Posée le</translation>
+    </message>
+    <message>
+        <source>End of life</source>
+        <translation>Fin de vie</translation>
+    </message>
+    <message>
+        <source>Life used</source>
+        <translation>Vie écoulée</translation>
+    </message>
+    <message>
+        <source>Offer 1</source>
+        <translation>Formule 1</translation>
+    </message>
+    <message>
+        <source>Offer 2</source>
+        <translation>Formule 2</translation>
+    </message>
+    <message>
+        <source>Offer 3</source>
+        <translation>Formule 3</translation>
+    </message>
+    <message>
+        <source>Offer 4</source>
+        <translation>Formule 4</translation>
+    </message>
+    <message>
+        <source>Offer 5</source>
+        <translation>Formule 5</translation>
+    </message>
+    <message>
+        <source>Course 1</source>
+        <translation>Formation 1</translation>
+    </message>
+    <message>
+        <source>Course 2</source>
+        <translation>Formation 2</translation>
+    </message>
+    <message>
+        <source>Course 3</source>
+        <translation>Formation 3</translation>
+    </message>
+    <message>
+        <source>Course 4</source>
+        <translation>Formation 4</translation>
+    </message>
+    <message>
+        <source>Course 5</source>
+        <translation>Formation 5</translation>
+    </message>
+    <message>
+        <source>Course 6</source>
+        <translation>Formation 6</translation>
     </message>
 </context>
 <context>
@@ -2184,10 +2260,6 @@
     <message>
         <source>Rebreather time</source>
         <translation>Temps recycleur</translation>
-    </message>
-    <message>
-        <source>Soda time label</source>
-        <translation>Temps de chaux</translation>
     </message>
     <message>
         <source>Remarks</source>

@@ -145,7 +145,7 @@ const WindowLayout& adressesEtsLayout() {
         "firmEditWindow",
         ui("Firm"),
         {addressPage(),
-         {"hoursPage", ui("Opening hours"), "conditions", {openinghours::section()}},
+         {"hoursPage", ui("Opening hours"), "history", {openinghours::section()}},
          notesPage()}};
     return layout;
 }

@@ -111,9 +111,8 @@ std::vector<RegisterColumn<Structures>> columns() {
 
 // --- Synthesis card ---
 
-/// An offer that has neither a name nor a price is none.
+/// All of them, so that the cards of two clubs have their lines side by side.
 void writePrice(CardWriter& card, const QString& name, Float price) {
-    if (name.isEmpty() && price == 0) return;
     card.line(name + formatted(u" : %.2f ", double(price)) + u'€');
 }
 

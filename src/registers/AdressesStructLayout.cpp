@@ -32,23 +32,27 @@ LayoutPane clubPage() {
     return {"clubPage", ui("Club"), "general", {club, address, contact}};
 }
 
-LayoutRow offer(const char* name, const char* price) {
-    return row({field(name), sized(price, none, 8, ui("€"))});
+LayoutRow offer(const Message<>& label, const char* name, const char* price) {
+    return row({field(name, label), sized(price, none, 8, ui("€"))});
 }
 
 LayoutPane pricesPage() {
     const LayoutSection dives{ui("Dives"),
                               {row({sized("baptemeField", ui("Introductory dive"), 8, ui("€"))}),
-                               offer("plongee_1Field", "prix_1Field"), offer("plongee_2Field", "prix_2Field"),
-                               offer("plongee_3Field", "prix_3Field"), offer("plongee_4Field", "prix_4Field"),
-                               offer("plongee_5Field", "prix_5Field")}};
-    const LayoutSection courses{
-        ui("Courses"),
-        {offer("formation_1Field", "prixForm_1Field"), offer("formation_2Field", "prixForm_2Field"),
-         offer("formation_3Field", "prixForm_3Field"), offer("formation_4Field", "prixForm_4Field"),
-         offer("formation_5Field", "prixForm_5Field"), offer("formation_6Field", "prixForm_6Field")},
-        true};
-    return {"pricesPage", ui("Prices"), "equipment", {dives, courses}};
+                               offer(ui("Offer 1"), "plongee_1Field", "prix_1Field"),
+                               offer(ui("Offer 2"), "plongee_2Field", "prix_2Field"),
+                               offer(ui("Offer 3"), "plongee_3Field", "prix_3Field"),
+                               offer(ui("Offer 4"), "plongee_4Field", "prix_4Field"),
+                               offer(ui("Offer 5"), "plongee_5Field", "prix_5Field")}};
+    const LayoutSection courses{ui("Courses"),
+                                {offer(ui("Course 1"), "formation_1Field", "prixForm_1Field"),
+                                 offer(ui("Course 2"), "formation_2Field", "prixForm_2Field"),
+                                 offer(ui("Course 3"), "formation_3Field", "prixForm_3Field"),
+                                 offer(ui("Course 4"), "formation_4Field", "prixForm_4Field"),
+                                 offer(ui("Course 5"), "formation_5Field", "prixForm_5Field"),
+                                 offer(ui("Course 6"), "formation_6Field", "prixForm_6Field")},
+                                true};
+    return {"pricesPage", ui("Prices"), "prices", {dives, courses}};
 }
 
 LayoutPane notesPage() {
@@ -74,7 +78,7 @@ const WindowLayout& adressesStructLayout() {
         ui("Club or centre"),
         {clubPage(),
          pricesPage(),
-         {"hoursPage", ui("Opening hours"), "conditions", {openinghours::section()}},
+         {"hoursPage", ui("Opening hours"), "history", {openinghours::section()}},
          notesPage()}};
     return layout;
 }

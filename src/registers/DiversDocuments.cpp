@@ -45,10 +45,8 @@ LayoutPane paperPage() {
 }
 
 LayoutPane copyPage() {
-    return {"copyPage",
-            ui("Scanned copy"),
-            "conditions",
-            {{ui("Scanned copy"), {row({field("photocopyWell")})}}}};
+    return {
+        "copyPage", ui("Scanned copy"), "picture", {{ui("Scanned copy"), {row({field("photocopyWell")})}}}};
 }
 
 LayoutPane notesPage() {

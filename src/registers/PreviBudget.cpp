@@ -24,7 +24,7 @@ std::vector<RegisterControl<Budget>> controls() {
         {{.name = "qualitePrixInfoField", .kind = Caption}},
         {{.name = "delaiSlider", .kind = Slider, .maximum = 5}, &F::delai},
         {{.name = "delaiInfoField", .kind = Caption}},
-        {{.name = "miseAJourField", .kind = Date}, &F::miseAJour},
+        {{.name = "miseAJourField", .kind = Date, .noDate = "--/--/----"}, &F::miseAJour},
         // Prices
         {{.name = "quantite_0Field", .kind = Number}, &F::quantite_0},
         {{.name = "quantite_1Field", .kind = Number}, &F::quantite_1},

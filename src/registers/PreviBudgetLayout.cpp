@@ -39,7 +39,7 @@ LayoutPane pricesPage() {
     const LayoutSection further{ui("Not in the total"),
                                 {row({sized("quantite_5Field", ui("Further price"), 6),
                                       sized("prixUnitaire_5Field", ui("at"), 8, ui("€"))})}};
-    return {"pricesPage", ui("Prices"), "equipment", {prices, further}};
+    return {"pricesPage", ui("Prices"), "prices", {prices, further}};
 }
 
 LayoutRow prepaid(const Message<>& label, const char* units, const char* price, const char* perUnit) {
@@ -54,7 +54,7 @@ LayoutPane cardsPage() {
          prepaid(ui("Card 2"), "unitesCarte_2Field", "prixCarte_2Field", "prixUnite_2Field"),
          prepaid(ui("Card 3"), "unitesCarte_3Field", "prixCarte_3Field", "prixUnite_3Field"),
          prepaid(ui("Card 4"), "unitesCarte_4Field", "prixCarte_4Field", "prixUnite_4Field")}};
-    return {"cardsPage", ui("Prepaid cards"), "conditions", {prepaidCards}};
+    return {"cardsPage", ui("Prepaid cards"), "card", {prepaidCards}};
 }
 
 }  // namespace

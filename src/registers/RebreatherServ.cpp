@@ -77,7 +77,7 @@ std::vector<RegisterControl<Rebreather>> controls() {
         list.push_back({{.name = cell.typeField, .kind = Text}, cell.type});
         list.push_back({{.name = cell.inField, .kind = Date}, cell.fitted});
         list.push_back({{.name = cell.outField, .kind = Date}});
-        list.push_back({{.name = cell.gauge, .kind = Gauge}});
+        list.push_back({{.name = cell.gauge, .kind = Gauge, .numbered = true}});
     }
     list.push_back({{.name = "notesField", .kind = Area}, &F::notes});
     return list;
@@ -206,8 +206,8 @@ void writeCard(CardWriter& card, const Rebreather& service, qsizetype) {
     card.line({"Rebreather", "Date"}, cardDate(service.date()));
     card.heading({"Rebreather", "Rebreather history"});
     card.line({"Rebreather", "Rebreather time"}, service.rebreatherTime());
-    // "Soda time" itself is the calculators' format of hours and minutes.
-    card.line({"Rebreather", "Soda time label"}, cardTime(service.sofnoTime()) + u" h"_s);
+    // In its own table "Soda time" is the calculators' format of hours and minutes.
+    card.line({"Main", "Soda time"}, cardTime(service.sofnoTime()) + u" h"_s);
     writeOperations(card, service);
     card.line({"Rebreather", "Remarks"}, service.notes());
     card.rule("\r----------------------------------------\r");

@@ -29,7 +29,7 @@ LayoutPane interventionPage() {
 
 LayoutRow cellRow(const char* fitted, const Message<>& label, const char* type, const char* in,
                   const char* out, const char* gauge) {
-    return row({field(fitted, label), field(type), sized(in, none, 11), sized(out, none, 11),
+    return row({sized(fitted, label, 1), field(type), sized(in, none, 11), sized(out, none, 11),
                 sized(gauge, none, 12)});
 }
 
@@ -37,8 +37,10 @@ LayoutPane cellsPage() {
     const LayoutSection replaced{
         ui("Cells replaced"),
         {row({field("cellsSwitch", ui("Cells replaced"))}), row({sized("nbCellsPopUp", ui("How many"), 5)})}};
-    const LayoutSection fitted{ui("Cells: type, fitted on, end of life, life used"),
-                               {cellRow("cell1Switch", ui("Cell 1"), "typeCell1Field", "cell1_inField",
+    const LayoutSection fitted{ui("Cells fitted"),
+                               {row({heading(none), heading(ui("Cell type")), heading(ui("Fitted on")),
+                                     heading(ui("End of life")), heading(ui("Life used"))}),
+                                cellRow("cell1Switch", ui("Cell 1"), "typeCell1Field", "cell1_inField",
                                         "cell1_outField", "cell1Progress"),
                                 cellRow("cell2Switch", ui("Cell 2"), "typeCell2Field", "cell2_inField",
                                         "cell2_outField", "cell2Progress"),

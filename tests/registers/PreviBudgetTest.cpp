@@ -36,8 +36,11 @@ private Q_SLOTS:
         QCOMPARE(bench.text(u"entrepriseField"_s), u""_s);
         QCOMPARE(bench.tag(u"qualitePrixSlider"_s), 0);
         QCOMPARE(bench.date(u"miseAJourField"_s), u""_s);
+        const int updated = bench.at(u"miseAJourField"_s);
+        QCOMPARE(bench.form().shownText(updated, bench.desk.strings), u"--/--/----"_s);
         bench.form().press(u"resetDateToNow"_s);
         QCOMPARE(bench.date(u"miseAJourField"_s), u"2016-06-07T14:30:00"_s);
+        QCOMPARE(bench.form().shownText(updated, bench.desk.strings), u"07/06/2016"_s);
     }
 
     void theTotalIsThatOfTheFirstFiveLines() {

@@ -226,7 +226,7 @@ private Q_SLOTS:
         const QString dashes = u"----------------------------------------"_s;
         QCOMPARE(lines, QStringList({u"Inventory"_s, u"Cells"_s, u"Cell 1 : OX-17, 01/01/2010 - 01/01/2011"_s,
                                      dashes, u"Date : 21/05/2016"_s, u"Rebreather history"_s,
-                                     u"Rebreather time : 78:40"_s, u"Soda time label : 03:05 h"_s,
+                                     u"Rebreather time : 78:40"_s, u"Soda time : 03:05 h"_s,
                                      u"Cells replacement : 2"_s, u"MpO2 : 8.5 bar"_s, u"Scrubber"_s,
                                      u"Remarks : "_s, dashes}));
     }

@@ -25,6 +25,21 @@ R with(std::initializer_list<std::pair<void (R::*)(Int), int>> values) {
     return record;
 }
 
+/// A wreck register with these names in it, nothing selected.
+struct Wrecks : RegisterBench {
+    explicit Wrecks(const QStringList& names) : RegisterBench("Epaves") {
+        QList<Epaves> list;
+        for (const QString& name : names) {
+            Epaves wreck;
+            wreck.setNom(name);
+            list << wreck;
+        }
+        load<Epaves>(list, epavesClass());
+        shown->selectRows({});
+    }
+    QStringList names() const { return column(QStringLiteral("nom")); }
+};
+
 inline QStringList itemsOf(const RegisterBench& bench, const RegisterToolbar& bar) {
     QStringList identifiers;
     for (const ToolbarItem& item : toolbarItems(bench.shown->design(), bar))

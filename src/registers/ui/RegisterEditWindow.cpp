@@ -2,14 +2,13 @@
 
 #include <QActionGroup>
 #include <QCloseEvent>
-#include <QJsonArray>
-#include <QScreen>
 #include <QShortcut>
 #include <QToolBar>
 
 #include "platform/ui/FittingToolBar.h"
 #include "platform/ui/FormView.h"
 #include "platform/ui/Icons.h"
+#include "platform/ui/PaneSizes.h"
 
 namespace sargan {
 
@@ -17,8 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize usualSize(760, 500);
-constexpr QSize smallestSize(320, 240);
+constexpr QSize leastSize(760, 420);
 
 }  // namespace
 
@@ -37,29 +35,32 @@ RegisterEditWindow::RegisterEditWindow(Register& shown, const QList<QAction*>& t
     connect(&document, &Document::selectionChanged, this, &RegisterEditWindow::showRecord);
     connect(&document, &Document::contentChanged, this, &RegisterEditWindow::showRecord);
     connect(&document, &Document::fileChanged, this, &RegisterEditWindow::showFile);
-    restoreSizes();
-    resize(_sizes.first());
+    // Wide enough for the words in the toolbar.
+    _sizes = new PaneSizes(*this, *_view, leastSize.expandedTo({_bar->sizeHint().width(), 0}));
+    _sizes->restore(shown.registerDocument().desk().defaults.value(placeKey()).toObject());
     showFile();
 }
 
-RegisterEditWindow::~RegisterEditWindow() = default;
-
-void RegisterEditWindow::makeToolbar(const QList<QAction*>& tools) {
-    auto* bar = new FittingToolBar(_register.registerDocument().strings().ui("Toolbar"),
-                                   Qt::ToolButtonTextUnderIcon, this);
-    bar->setObjectName(QLatin1String(_register.design().editBar.identifier));
-    makePageButtons(bar);
-    bar->addSeparator();
-    bar->addActions(tools);
+RegisterEditWindow::~RegisterEditWindow() {
+    if (isVisible()) rememberSizes();
 }
 
-void RegisterEditWindow::makePageButtons(QToolBar* bar) {
+void RegisterEditWindow::makeToolbar(const QList<QAction*>& tools) {
+    _bar = new FittingToolBar(_register.registerDocument().strings().ui("Toolbar"),
+                              Qt::ToolButtonTextUnderIcon, this);
+    _bar->setObjectName(QLatin1String(_register.design().editBar.identifier));
+    makePageButtons();
+    _bar->addSeparator();
+    _bar->addActions(tools);
+}
+
+void RegisterEditWindow::makePageButtons() {
     _pages = new QActionGroup(this);
     const QList<LayoutPane>& panes = _register.design().layout().panes;
     for (int i = 0; i < int(panes.size()); ++i) {
         const QString label = _register.registerDocument().strings().text(panes[i].label);
         const QKeySequence key(u"Ctrl+%1"_s.arg(i + 1));
-        QAction* page = bar->addAction(iconNamed(panes[i].icon), QString(label).replace(u'&', u"&&"_s));
+        QAction* page = _bar->addAction(iconNamed(panes[i].icon), QString(label).replace(u'&', u"&&"_s));
         page->setObjectName(QLatin1String(_register.design().operations.goPage) + QString::number(i + 1));
         page->setToolTip(label + u" ("_s + key.toString(QKeySequence::NativeText) + u')');
         page->setCheckable(true);
@@ -72,10 +73,7 @@ void RegisterEditWindow::makePageButtons(QToolBar* bar) {
 
 void RegisterEditWindow::goPage(int page) {
     if (page < 0 || page >= _view->paneCount() || page == pageShown()) return;
-    const bool hasOwnSize = !isMaximized() && !isFullScreen();
-    if (hasOwnSize) _sizes[pageShown()] = size();
     _view->showPane(page);
-    if (hasOwnSize) resize(_sizes[page]);
     _pages->actions().at(page)->setChecked(true);
     _register.refresh();
 }
@@ -111,22 +109,8 @@ QString RegisterEditWindow::placeKey() const {
     return u"window "_s + QLatin1String(_register.design().layout().name);
 }
 
-void RegisterEditWindow::restoreSizes() {
-    const QJsonArray kept =
-        _register.registerDocument().desk().defaults.value(placeKey()).toObject()[u"pages"_s].toArray();
-    const QSize room = screen()->availableSize() - QSize(20, 40);
-    for (int i = 0; i < _view->paneCount(); ++i) {
-        const QJsonArray one = kept[i].toArray();
-        const QSize size = one.size() == 2 ? QSize(one[0].toInt(), one[1].toInt()) : usualSize;
-        _sizes.append(size.expandedTo(smallestSize).boundedTo(room));
-    }
-}
-
 void RegisterEditWindow::rememberSizes() {
-    _sizes[pageShown()] = isMaximized() || isFullScreen() ? normalGeometry().size() : size();
-    QJsonArray pages;
-    for (const QSize& size : std::as_const(_sizes)) pages.append(QJsonArray{size.width(), size.height()});
-    _register.registerDocument().desk().defaults.store(placeKey(), QJsonObject{{u"pages"_s, pages}});
+    _register.registerDocument().desk().defaults.store(placeKey(), _sizes->place());
 }
 
 void RegisterEditWindow::closeEvent(QCloseEvent* event) {

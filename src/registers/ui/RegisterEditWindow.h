@@ -9,6 +9,7 @@ class QActionGroup;
 namespace sargan {
 
 class FormView;
+class PaneSizes;
 
 /// The window in which one record is edited: the register's first selected one. What is typed is in the form
 /// at once and in the record when the form is stored: by going to another record, by ending the editing of a
@@ -33,17 +34,17 @@ protected:
 
 private:
     void makeToolbar(const QList<QAction*>& tools);
-    void makePageButtons(QToolBar* bar);
+    void makePageButtons();
     void showRecord();
     void showFile();
-    void restoreSizes();
     void rememberSizes();
     QString placeKey() const;
 
     Register& _register;
     FormView* _view;
+    QToolBar* _bar = nullptr;
     QActionGroup* _pages = nullptr;
-    QList<QSize> _sizes;  ///< of the window, by page
+    PaneSizes* _sizes = nullptr;
 };
 
 }  // namespace sargan

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QMenu>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -9,6 +10,7 @@
 #include "platform/print/TablePages.h"
 #include "platform/ui/FittingToolBar.h"
 #include "platform/ui/Icons.h"
+#include "platform/ui/WindowState.h"
 #include "registers/RegisterToolbars.h"
 #include "registers/ui/RegisterEditWindow.h"
 #include "registers/ui/RegisterTableView.h"
@@ -73,8 +75,8 @@ void RegisterWindow::makeActions() {
         action(names.next, "next", words.ui("Next"), {QKeySequence(u"Ctrl+PgDown"_s)}, &RegisterWindow::next);
     _card = action(names.synthesis, "texte", words.text({"Main", "Synthesis card"}), {},
                    &RegisterWindow::synthesisWindow);
-    _print = action(names.print, "imprimante", words.ui("Print the list…"),
-                    {QKeySequence(QKeySequence::Print)}, &RegisterWindow::printList);
+    _printing = new PrintActions(names.print, words.ui("Print the list…"), document().desk(), this,
+                                 [this] { return printableList(); });
     // Plain keys belong to the table: elsewhere they mean something to the field that has the keyboard.
     _delete->setShortcutContext(Qt::WidgetShortcut);
     _openEdit->setShortcutContext(Qt::WidgetShortcut);
@@ -82,6 +84,7 @@ void RegisterWindow::makeActions() {
 
 void RegisterWindow::makeTable() {
     _table->setObjectName(u"registerTableView"_s);
+    _table->setAccessibleName(strings().ui("List of cards"));
     _table->addActions({_openEdit, _add, _delete});
     _table->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(_table, &QTableView::doubleClicked, this, &RegisterWindow::editWindow);
@@ -117,7 +120,7 @@ void RegisterWindow::runTool(const QByteArray& identifier) {
     if (identifier == names.add) return addRecord();
     if (identifier == names.erase) return deleteRecords();
     if (identifier == "saveDocument") return Q_EMIT saveWanted();
-    if (identifier == "imprimer") return printList();
+    if (identifier == "imprimer") return _printing->print();
     if (identifier == "synthese") return synthesisWindow();
     if (identifier == "blankFields" && !document().isReadOnly()) _register.form().press(u"blankFields"_s);
 }
@@ -138,7 +141,8 @@ QMenu* RegisterWindow::makeKindMenu() {
     menu->addSeparator();
     menu->addActions({_previous, _next});
     menu->addSeparator();
-    menu->addActions({_card, _print});
+    menu->addAction(_card);
+    menu->addActions(_printing->all());
     return menu;
 }
 
@@ -174,28 +178,46 @@ void RegisterWindow::editWindow() {
 
 void RegisterWindow::synthesisWindow() {
     _register.storeForm();
-    if (!_synthesis) _synthesis = std::make_unique<SynthesisWindow>(_register);
-    _synthesis->open();
+    synthesis().open();
 }
 
-void RegisterWindow::printList() {
+SynthesisWindow& RegisterWindow::synthesis() {
+    if (!_synthesis) _synthesis = std::make_unique<SynthesisWindow>(_register);
+    return *_synthesis;
+}
+
+std::unique_ptr<Printable> RegisterWindow::printableList() {
     _register.storeForm();
     _register.selectRows({});
-    printOnPaper(TablePages(_register, strings(), document().displayName()), document().desk(), this, paper);
+    return std::make_unique<TablePages>(_register, strings(), document().displayName(),
+                                        _table->columnOrder());
 }
 
 QJsonObject RegisterWindow::openParts() const {
-    QJsonObject parts;
-    if (_edit && _edit->isVisible()) parts.insert(u"edit"_s, _edit->pageShown());
-    if (_synthesis && _synthesis->isVisible()) parts.insert(u"synthesis"_s, true);
+    QJsonObject parts{{u"scrolled to"_s, _table->verticalScrollBar()->value()}};
+    if (_edit && _edit->isVisible()) {
+        parts.insert(u"page"_s, _edit->pageShown());
+        parts.insert(u"edit"_s, stateOf(*_edit));
+    }
+    if (_synthesis && _synthesis->isVisible()) {
+        parts.insert(u"card"_s, _synthesis->shownPage());
+        parts.insert(u"synthesis"_s, stateOf(*_synthesis));
+    }
     return parts;
 }
 
 void RegisterWindow::reopenParts(const QJsonObject& parts) {
-    if (parts.contains(u"synthesis"_s)) synthesisWindow();
-    if (!parts.contains(u"edit"_s)) return;
-    editWindow();
-    if (_edit) _edit->goPage(parts[u"edit"_s].toInt());
+    _table->verticalScrollBar()->setValue(parts[u"scrolled to"_s].toInt());
+    if (parts.contains(u"synthesis"_s)) {
+        synthesis().showPage(parts[u"card"_s].toString());
+        bringBack(synthesis(), parts[u"synthesis"_s].toObject());
+        synthesis().open();
+    }
+    if (parts.contains(u"edit"_s)) {
+        editWindow();
+        _edit->goPage(parts[u"page"_s].toInt());
+        bringBack(*_edit, parts[u"edit"_s].toObject());
+    }
 }
 
 bool RegisterWindow::mayHavePending() const {

@@ -42,9 +42,8 @@ public:
     /// The edit window on the first selected record, or on none.
     void editWindow();
     void synthesisWindow();
-    /// Prints the list; nothing is selected then.
-    void printList();
-    PaperChooser paper = choosePaper;
+    /// Printing, preview and PDF of the list; nothing is selected then.
+    PrintActions& printing() const { return *_printing; }
 
 Q_SIGNALS:
     void saveWanted();
@@ -61,12 +60,14 @@ private:
     void makeToolbar();
     QList<QAction*> toolActions(const RegisterToolbar& bar);
     void runTool(const QByteArray& identifier);
+    std::unique_ptr<Printable> printableList();
     void observe();
     void previous() { _register.previous(); }
     void next() { _register.next(); }
     void showSelection();
     void validate();
     void showCount();
+    SynthesisWindow& synthesis();
 
     Register& _register;
     RegisterTableView* _table;
@@ -77,7 +78,7 @@ private:
     QAction* _previous = nullptr;
     QAction* _next = nullptr;
     QAction* _card = nullptr;
-    QAction* _print = nullptr;
+    PrintActions* _printing = nullptr;
     QList<QAction*> _tools;  ///< of both toolbars, named by their identifiers
     QList<QAction*> _editTools;
     std::unique_ptr<RegisterEditWindow> _edit;

@@ -27,6 +27,7 @@ SynthesisWindow::SynthesisWindow(Register& shown) : _register(shown), _page(new 
     setContextMenuPolicy(Qt::NoContextMenu);
     setWindowTitle(strings.text({"Main", "Synthesis card"}) + u" – "_s + document.displayName());
     _page->setObjectName(u"synthesisTextView"_s);
+    _page->setAccessibleName(strings.text({"Main", "Synthesis card"}));
     _page->setOpenLinks(false);
     // A card is a page of paper, whatever the colours of the desktop.
     QPalette paper = _page->palette();
@@ -36,16 +37,17 @@ SynthesisWindow::SynthesisWindow(Register& shown) : _register(shown), _page(new 
     setCentralWidget(_page);
     QToolBar* bar = addToolBar(strings.ui("Toolbar"));
     bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    QAction* print = bar->addAction(iconNamed("imprimante"), strings.text({"Main", "Print"}));
-    print->setObjectName(u"printSynthesis"_s);
-    print->setShortcut(QKeySequence::Print);
-    connect(print, &QAction::triggered, this, &SynthesisWindow::printSynthesis);
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    _printing = new PrintActions("printSynthesis", strings.text({"Main", "Print"}), document.desk(), this,
+                                 [this] { return printableCard(); });
+    bar->addActions(_printing->all());
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
-    connect(&document, &Document::selectionChanged, this, [this] {
+    const auto follow = [this] {
         if (isVisible()) fillSynthesisWindow();
-    });
+    };
+    connect(&document, &Document::selectionChanged, this, follow);
+    connect(&document, &Document::contentChanged, this, follow);
     const QJsonObject place = document.desk().defaults.value(placeKey).toObject();
     resize(place.isEmpty() ? QSize(560, 640) : QSize(place[u"width"_s].toInt(), place[u"height"_s].toInt()));
 }
@@ -59,15 +61,24 @@ void SynthesisWindow::open() {
 }
 
 void SynthesisWindow::fillSynthesisWindow() {
-    if (const qsizetype row = _register.selectedRow(); row >= 0)
-        _register.card(row).toDocument(*_page->document());
+    const qsizetype row = _register.selectedRow();
+    if (row < 0) return;
+    _register.card(row).toDocument(*_page->document());
+    _page->document()->setDocumentMargin(12);
 }
 
-void SynthesisWindow::printSynthesis() {
+QString SynthesisWindow::shownPage() const {
+    return _page->toHtml();
+}
+
+void SynthesisWindow::showPage(const QString& page) {
+    _page->setHtml(page);
+}
+
+std::unique_ptr<Printable> SynthesisWindow::printableCard() const {
     const qsizetype row = _register.selectedRow();
-    if (row < 0 || !_register.hasCard()) return;
-    const Document& document = _register.registerDocument();
-    printOnPaper(TextPages(_register.card(row), document.displayName()), document.desk(), this, paper);
+    if (row < 0 || !_register.hasCard()) return nullptr;
+    return std::make_unique<TextPages>(_register.card(row), _register.registerDocument().displayName());
 }
 
 void SynthesisWindow::closeEvent(QCloseEvent* event) {

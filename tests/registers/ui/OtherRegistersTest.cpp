@@ -133,6 +133,21 @@ private Q_SLOTS:
         QVERIFY(fitted->isVisible() && screen.field(u"cell2Progress"_s)->isVisible());
     }
 
+    void aCellsLifeHasItsNumberInTheBar() {
+        GoldenOnScreen screen(u"Rebreather"_s, u"rebreather-v4.rebreather"_s);
+        screen.openEdit();
+        screen.edit()->goPage(1);
+        const int gauge = screen.at(u"cell1Progress"_s);
+        auto* bar = screen.field<QProgressBar>(u"cell1Progress"_s);
+        QVERIFY(bar->isTextVisible());
+        const std::pair<double, QString> numbers[] = {
+            {49.6, u"50 %"_s}, {126.4, u"126 %"_s}, {-3.0, u"-3 %"_s}, {HUGE_VAL, u"–"_s}};
+        for (const auto& [level, text] : numbers) {
+            screen.form().setLevel(gauge, level);
+            QCOMPARE(bar->text(), text);
+        }
+    }
+
     void theTotalFollowsTheTyping() {
         RegisterOnScreen screen("Budget", {u"Dive"_s});
         screen.shown->selectRows({0});
@@ -142,6 +157,20 @@ private Q_SLOTS:
         formwalk::typeInto(screen.field(u"prixUnitaire_0Field"_s), u"30"_s);
         QTest::keyClick(screen.field(u"prixUnitaire_0Field"_s), Qt::Key_Tab);
         QCOMPARE(screen.text(u"totalField"_s), u"60"_s);
+    }
+
+    void aDropOfRowsRepeatsTheLastRecord() {
+        RegisterOnScreen items("Materiel", {u"a"_s, u"b"_s});
+        QMimeData dragged;
+        dragged.setData(u"materiel"_s, "0");
+        QWidget* viewport = items.window->table().viewport();
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &drop);
+        QCOMPARE(items.column(u"matosNo"_s), QStringList({u"a"_s, u"b"_s, u"b"_s}));
+        QCOMPARE(items.window->table().model()->rowCount(), 3);
     }
 };
 

@@ -1,4 +1,5 @@
 #include "registers/ui/RegisterUiTests.h"
+#include "support/ColouredPdf.h"
 
 using namespace sargan;
 using namespace Qt::StringLiterals;
@@ -79,6 +80,52 @@ private Q_SLOTS:
         page.drop(dragged);
         QVERIFY(page.held().startsWith("\x89PNG"));
         QCOMPARE(QImage::fromData(page.held()).size(), QSize(5, 4));
+    }
+
+    void aPdfOfSeveralPagesIsAskedForThePage_data() {
+        QTest::addColumn<int>("pages");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<int>("questions");
+        QTest::addColumn<QColor>("color");
+        QTest::newRow("one page") << 1 << 7 << 0 << QColor(Qt::red);
+        QTest::newRow("the first") << 3 << 0 << 1 << QColor(Qt::red);
+        QTest::newRow("the last") << 3 << 2 << 1 << QColor(Qt::blue);
+        QTest::newRow("given up") << 3 << -1 << 1 << QColor();
+    }
+    void aPdfOfSeveralPagesIsAskedForThePage() {
+        QFETCH(int, pages);
+        QFETCH(int, answer);
+        QFETCH(int, questions);
+        QFETCH(QColor, color);
+        const QByteArray pdf = pdf::colouredPages(QList<QColor>{Qt::red, Qt::green, Qt::blue}.first(pages));
+        PhotoPage page;
+        int asked = 0;
+        page.edit()->view().choosers.page = [&](QWidget*, const QByteArray& file) {
+            ++asked;
+            return file == pdf ? answer : -1;
+        };
+        const auto check = [&] {
+            QTRY_COMPARE(asked, questions);
+            QCOMPARE(QImage::fromData(page.held()).pixelColor(10, 10), color);
+            page.form().setImage(page.at(u"photoWell"_s), {});
+            asked = 0;
+        };
+        QMimeData dragged;
+        dragged.setUrls({QUrl::fromLocalFile(page.file("p.pdf", pdf))});
+        page.drop(dragged);
+        check();
+        page.edit()->view().choosers.image = [&](QWidget*) { return pdf; };
+        QTest::mouseClick(page.well, Qt::LeftButton);
+        check();
+    }
+
+    void aChosenFileThatIsNoPictureIsTold() {
+        PhotoPage page;
+        page.edit()->view().choosers.image = [](QWidget*) { return QByteArray("words"); };
+        page.desk.prompt.expectAlert(u"This file is no picture."_s);
+        QTest::mouseClick(page.well, Qt::LeftButton);
+        QCOMPARE(page.desk.prompt.finish(), QStringList());
+        QVERIFY(page.held().isNull());
     }
 
     void aFileThatIsNoPictureChangesNothing() {

@@ -13,6 +13,7 @@
 #include "support/FormWalk.h"
 
 int runOtherRegistersTest(int argc, char** argv);
+int runRegisterPagesTest(int argc, char** argv);
 int runRegisterPictureTest(int argc, char** argv);
 int runRegisterWindowTest(int argc, char** argv);
 

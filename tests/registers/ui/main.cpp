@@ -2,5 +2,7 @@
 #include "support/GuiMain.h"
 
 int main(int argc, char** argv) {
-    return runGuiTests(argc, argv, {runRegisterWindowTest, runRegisterPictureTest, runOtherRegistersTest});
+    return runGuiTests(
+        argc, argv,
+        {runRegisterWindowTest, runRegisterPagesTest, runRegisterPictureTest, runOtherRegistersTest});
 }
