@@ -138,6 +138,14 @@
 <context>
     <name>Interface</name>
     <message>
+        <source>hPa</source>
+        <translation>hPa</translation>
+    </message>
+    <message>
+        <source>l/min</source>
+        <translation>l/min</translation>
+    </message>
+    <message>
         <source>Stops</source>
         <translation>Paliers</translation>
     </message>

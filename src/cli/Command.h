@@ -12,7 +12,7 @@ class Session;
 struct Command {
     const char* name;
     const char* usage;    ///< what follows the name
-    const char* summary;  ///< one sentence
+    const char* summary;  ///< one sentence, with more behind it if need be
     std::span<const OptionSpec> options;
     void (*run)(Session&, const Arguments&);
 };

@@ -9,7 +9,7 @@ const QString purpose = QStringLiteral("Sargan keeps a diver's records: logbook 
 
 QString optionHead(const OptionSpec& option) {
     const QString name = QLatin1String(option.name);
-    return option.takes == Takes::Nothing ? name : name + u' ' + QLatin1String(option.value);
+    return option.takes == Takes::Nothing ? name : name + u' ' + QString::fromUtf8(option.value);
 }
 
 QString optionLines(std::span<const OptionSpec> options) {
@@ -18,6 +18,12 @@ QString optionLines(std::span<const OptionSpec> options) {
         lines +=
             QStringLiteral("  %1  %2\n").arg(optionHead(option), -22).arg(QString::fromUtf8(option.help));
     return lines;
+}
+
+/// The list of all commands has a line for each.
+QString firstSentence(const QString& summary) {
+    const qsizetype end = summary.indexOf(QLatin1String(". "));
+    return end < 0 ? summary : summary.left(end + 1);
 }
 
 /// Text for a manual page: no line may begin like a request, and hyphens are meant as they stand.
@@ -48,8 +54,8 @@ QString overallHelp() {
                                  "Without a command the desktop opens. Commands:\n\n");
     for (const Command& command : commands())
         help += QStringLiteral("  %1  %2\n")
-                    .arg(QLatin1String(command.name), -11)
-                    .arg(QString::fromUtf8(command.summary));
+                    .arg(QLatin1String(command.name), -12)
+                    .arg(firstSentence(QString::fromUtf8(command.summary)));
     help += QStringLiteral("\nBefore or after any command:\n\n") + optionLines(globalOptionSpecs());
     help += QStringLiteral(
         "\nExit status: 0 done, 1 failed (nothing was written), 2 wrong usage.\n"

@@ -5,11 +5,12 @@
 #include "cli/FormJson.h"
 #include "cli/Session.h"
 #include "logbook/DiveProfil.h"
-#include "platform/document/TableSource.h"
+#include "platform/document/ColumnOrder.h"
 #include "platform/print/CommandApplication.h"
 #include "platform/print/Drawing.h"
 #include "platform/print/TablePages.h"
 #include "platform/record/Field.h"
+#include "registers/Register.h"
 
 namespace sargan::cli {
 
@@ -83,11 +84,18 @@ void runTable(Session& session, const Arguments& arguments) {
     if (!table.tableCount().isEmpty()) print(table.tableCount());
 }
 
+/// Under which the window of such documents remembers its columns.
+QString tableName(Document& document) {
+    const auto* shown = dynamic_cast<const Register*>(&document);
+    return shown ? QString::fromLatin1(shown->design().nibName) : QStringLiteral("Carnet");
+}
+
 void runPrint(Session& session, const Arguments& arguments) {
     arguments.atMost(1);
     const QString output = arguments.one("-o");
     const auto document = session.read(arguments.at(0, "FILE"));
-    const TablePages pages(tableOf(*document), session.desk().strings, document->displayName());
+    const TablePages pages(tableOf(*document), session.desk().strings, document->displayName(),
+                           rememberedColumnOrder(session.desk().defaults, tableName(*document)));
     ensureGuiApplication();
     writeOutput(output, pdfOf(pages));
 }

@@ -100,6 +100,11 @@ void Carnet::storeForm() {
     updateDive();
 }
 
+void Carnet::storeTyped() {
+    if (settleProfile) settleProfile();
+    storeForm();
+}
+
 bool Carnet::deleteDive() {
     if (selection().isEmpty() || isReadOnly()) return false;
     desk().prompt.beep();
@@ -115,7 +120,7 @@ bool Carnet::deleteDive() {
 
 void Carnet::renumDives() {
     if (isReadOnly()) return;
-    storeForm();
+    storeTyped();
     const qint64 start = _panel.integer(panelcontrol::renumNumber);
     Records<Plongee> dives;
     dives.reserve(count());
@@ -137,6 +142,7 @@ void Carnet::nextDive() {
 }
 
 void Carnet::moveBy(int rows) {
+    if (settleProfile) settleProfile();
     if (_formOpen && finishEditing) finishEditing();
     updateDive();
     _currentIndex = selectedRow();
@@ -148,7 +154,8 @@ void Carnet::moveBy(int rows) {
 }
 
 void Carnet::changementSelection(const Selection& rows) {
-    storeForm();
+    const bool isLeaving = selectedRow() != (rows.isEmpty() ? -1 : rows.first());
+    isLeaving ? storeTyped() : storeForm();
     select(rows);
 }
 
@@ -170,7 +177,7 @@ void Carnet::loadSelected() {
 }
 
 void Carnet::findTextWithField(const QString& field) {
-    storeForm();
+    storeTyped();
     const QString wanted = _panel.text(panelcontrol::search);
     Selection matches;
     select({});

@@ -52,6 +52,8 @@ public:
     void updateDive();
     /// The same, when the person has the form open and may have typed into it.
     void storeForm();
+    /// All that was typed for the dive at hand, before it gives way: its profile's texts and the form.
+    void storeTyped();
     /// Removes all selected dives, after a question. Answers whether it was done.
     bool deleteDive();
     /// Numbers the dives from the panel's number on, in list order.
@@ -97,6 +99,8 @@ public:
     void setFormOpen(bool open) { _formOpen = open; }
     /// Called before the open form is stored: the field that is being typed into ends its editing.
     std::function<void()> finishEditing;
+    /// Called before the dive at hand gives way: texts of its profile that wait to be put into it are settled.
+    std::function<void()> settleProfile;
 
 Q_SIGNALS:
     void scrollWanted(qsizetype row);

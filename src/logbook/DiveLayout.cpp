@@ -101,7 +101,7 @@ LayoutPane decoPane() {
                                {{sized("tempsField", ui("Dive time"), 7, minutes)}},
                                {{sized("surfaceField", ui("Surface interval"), 9)}},
                                {{sized("altitudeField", ui("Altitude"), 7, metres)}},
-                               {{sized("pAtmField", ui("Air pressure"), 7)}}}};
+                               {{sized("pAtmField", ui("Air pressure"), 7, ui("hPa"))}}}};
     const LayoutSection method{ui("Decompression"),
                                {{{field("decoPopUp", ui("Method"))}},
                                 {{sized("deco_TTSField", ui("Time to surface"), 7, minutes)}},
@@ -146,7 +146,7 @@ LayoutPane gasPane() {
                                          "n2Mix_2Field", "heMix_2Field", "deltaPressure_2Field"})};
     const LayoutSection apparatus{
         ui("Apparatus"),
-        {{{field("rebreatherPopUp", ui("Apparatus")), sized("flowField", ui("Flow"), 6)}},
+        {{{field("rebreatherPopUp", ui("Apparatus")), sized("flowField", ui("Flow"), 6, ui("l/min"))}},
          {{field("ppO2PopUp", ui("Set-point")), field("lowSetpointPopUp", ui("Low set-point"))}},
          {{field("sodaTypeField", ui("CO₂ absorbent"))}}},
         true};

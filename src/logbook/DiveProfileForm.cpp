@@ -94,16 +94,35 @@ DiveProfileForm::DiveProfileForm(Carnet& carnet) : _carnet(carnet), _form(specsO
 }
 
 void DiveProfileForm::updateProfilInfo() {
+    show(false);
+}
+
+void DiveProfileForm::followDive() {
+    show(isSameDive());
+}
+
+bool DiveProfileForm::isSameDive() const {
+    const qsizetype row = _carnet.selectedRow();
+    if (row < 0 || _row < 0) return false;
+    return _carnet.records()[row] == _dive || (row == _row && _carnet.count() == _dives);
+}
+
+void DiveProfileForm::show(bool keepsMarked) {
+    _row = _carnet.selectedRow();
+    _dives = _carnet.count();
+    _dive = _row < 0 ? nullptr : _carnet.records()[_row];
     const QScopedValueRollback filling(_isFilling, true);
     const Strings& strings = _carnet.strings();
     _title = strings.text(Message<int>{"Carnet", "Dive number profile datas title"},
                           _carnet.form().integer(divecontrol::plongeeNo));
-    _form.setTag(profilecontrol::eraseAll, 0);
+    if (!keepsMarked) _form.setTag(profilecontrol::eraseAll, 0);
     for (const ProfileList& list : profileLists()) {
         const NumberArray& numbers = listOf(_carnet.diveForm().working(), list);
         const bool isThere = profile::isPresent(numbers);
-        _form.setTag(list.replace, 0);
-        _form.setText(list.text, isThere ? profile::editProfil(numbers, list.isReal ? 1 : 0) : QString());
+        if (!keepsMarked) _form.setTag(list.replace, 0);
+        if (_form.tag(list.replace) == 0)
+            _form.setText(list.text,
+                          isThere ? profile::editProfil(numbers, list.isReal ? 1 : 0) : QString());
         _form.setText(list.count, isThere ? strings.text(Message<int>{"Carnet", "Datas"}, int(numbers.size()))
                                           : strings.text({"Carnet", "No datas"}));
     }

@@ -31,6 +31,9 @@ public:
 
     /// Texts, counts and title from the form's dive; every "replace" box off.
     void updateProfilInfo();
+    /// The same after a change of the form or the list. While the dive is still the same one, the lists whose
+    /// box is on keep what was typed.
+    void followDive();
     /// The lists whose box is on are replaced by what their texts say, each on its own; then the dive is
     /// stored and the form refreshed.
     void importProfil();
@@ -40,12 +43,19 @@ public:
     NumberArray depthsShown() const;
 
 private:
+    bool isSameDive() const;
+    void show(bool keepsMarked);
     void controlChanged(int control);
     void controlLeft(int control);
 
     Carnet& _carnet;
     Form _form;
     QString _title;
+    // Whose profile is shown. A dive is replaced by another record whenever it is stored, and moves when the
+    // list is sorted, but never both at once.
+    RecordPointer<Plongee> _dive;
+    qsizetype _row = -1;
+    qsizetype _dives = 0;
     bool _isFilling = false;
 };
 

@@ -10,13 +10,15 @@ int runCarnetSearchTest(int argc, char** argv);
 int runCarnetSelectionTest(int argc, char** argv);
 int runCarnetTypesTest(int argc, char** argv);
 int runDiveBlankTest(int argc, char** argv);
-int runDiveCellTest(int argc, char** argv);
+int runDiveCellColorTest(int argc, char** argv);
+int runDiveCellTextTest(int argc, char** argv);
 int runDiveFiguresTest(int argc, char** argv);
 int runDiveFormTest(int argc, char** argv);
 int runDiveMappingTest(int argc, char** argv);
 int runDiveMenusTest(int argc, char** argv);
 int runDiveOfferTest(int argc, char** argv);
 int runDiveProfileFormTest(int argc, char** argv);
+int runDiveTableSortTest(int argc, char** argv);
 int runDiveTableSourceTest(int argc, char** argv);
 
 namespace sargan {

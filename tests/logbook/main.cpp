@@ -4,7 +4,7 @@
 int main(int argc, char** argv) {
     return runTests(argc, argv,
                     {runDiveBlankTest, runDiveMappingTest, runDiveMenusTest, runDiveFormTest,
-                     runDiveFiguresTest, runDiveOfferTest, runDiveProfileFormTest, runDiveCellTest,
-                     runDiveTableSourceTest, runCarnetListTest,
+                     runDiveFiguresTest, runDiveOfferTest, runDiveProfileFormTest, runDiveCellTextTest,
+                     runDiveCellColorTest, runDiveTableSourceTest, runDiveTableSortTest, runCarnetListTest,
                      runCarnetSelectionTest, runCarnetSearchTest, runCarnetTypesTest});
 }

@@ -3,7 +3,6 @@
 #include <QAbstractButton>
 #include <QActionGroup>
 #include <QCloseEvent>
-#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QToolBar>
@@ -13,6 +12,7 @@
 #include "platform/ui/FormView.h"
 #include "platform/ui/Icons.h"
 #include "platform/ui/Mnemonics.h"
+#include "platform/ui/PaneSizes.h"
 
 namespace sargan {
 
@@ -21,6 +21,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString placeKey = u"window editWindow"_s;
+/// Most panes are of this size; the one of the notes would be too small for notes.
+constexpr QSize leastSize(960, 420);
 
 const char* firstControl(const LayoutPane& pane) {
     return pane.sections.first().rows.first().items.first().control;
@@ -38,7 +40,9 @@ const char* lastControl(const LayoutPane& pane) {
 }  // namespace
 
 DiveEditWindow::DiveEditWindow(Carnet& carnet, const QList<QAction*>& tools, const QList<QAction*>& shared)
-    : _carnet(carnet), _view(new FormView(carnet.form(), diveLayout(), carnet.desk())) {
+    : _carnet(carnet),
+      _view(new FormView(carnet.form(), diveLayout(), carnet.desk())),
+      _sizes(new PaneSizes(*this, *_view, leastSize)) {
     setAttribute(Qt::WA_QuitOnClose, false);
     setContextMenuPolicy(Qt::NoContextMenu);
     setCentralWidget(_view);
@@ -51,19 +55,12 @@ DiveEditWindow::DiveEditWindow(Carnet& carnet, const QList<QAction*>& tools, con
     connect(&carnet, &Document::contentChanged, this, &DiveEditWindow::showDive);
     connect(&carnet, &Document::fileChanged, this, &DiveEditWindow::showReadOnly);
     carnet.finishEditing = [this] { _view->finishEditing(); };
-    restoreSize();
+    _sizes->restore(carnet.desk().defaults.value(placeKey).toObject());
     showReadOnly();
 }
 
 DiveEditWindow::~DiveEditWindow() {
     _carnet.finishEditing = {};
-}
-
-void DiveEditWindow::restoreSize() {
-    const QJsonObject place = _carnet.desk().defaults.value(placeKey).toObject();
-    const QSize size =
-        place.isEmpty() ? QSize(960, 560) : QSize(place[u"width"_s].toInt(), place[u"height"_s].toInt());
-    resize(size.expandedTo(QSize(320, 240)).boundedTo(screen()->availableSize() - QSize(20, 40)));
 }
 
 QAction* DiveEditWindow::button(const char* name, const char* icon, const QString& text, const QString& tip) {
@@ -140,7 +137,8 @@ bool DiveEditWindow::focusNextPrevChild(bool next) {
     const int shown = _view->currentPane();
     const char* edge = next ? lastControl(panes[shown]) : firstControl(panes[shown]);
     const QWidget* focused = focusWidget();
-    if (!focused || focused->objectName() != QLatin1String(edge))
+    // A pane that is being hidden gives its focus away in this way too, and is no reason to turn another one.
+    if (!focused || !focused->isVisible() || focused->objectName() != QLatin1String(edge))
         return QMainWindow::focusNextPrevChild(next);
     const int count = int(panes.size());
     const int wanted = (shown + (next ? 1 : count - 1)) % count;
@@ -186,7 +184,7 @@ void DiveEditWindow::showReadOnly() {
 void DiveEditWindow::closeEvent(QCloseEvent* event) {
     store();
     _carnet.setFormOpen(false);
-    _carnet.desk().defaults.store(placeKey, QJsonObject{{u"width"_s, width()}, {u"height"_s, height()}});
+    _carnet.desk().defaults.store(placeKey, _sizes->place());
     event->accept();
 }
 

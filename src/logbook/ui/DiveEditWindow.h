@@ -9,6 +9,7 @@ class QActionGroup;
 namespace sargan {
 
 class FormView;
+class PaneSizes;
 
 /// The window in which one dive is edited: the logbook's first selected one. What is typed is in the form at
 /// once and in the dive when the form is stored: by the button, by going to another dive, or by closing.
@@ -35,7 +36,6 @@ private:
     void makeToolbar(const QList<QAction*>& tools);
     void makePaneButtons();
     QAction* button(const char* name, const char* icon, const QString& text, const QString& tip);
-    void restoreSize();
     bool focusControl(const char* control);
     void store();
     void blank();
@@ -44,6 +44,7 @@ private:
 
     Carnet& _carnet;
     FormView* _view;
+    PaneSizes* _sizes;
     QToolBar* _bar = nullptr;
     QActionGroup* _panes = nullptr;
     QAction* _store = nullptr;

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextBlock>
@@ -37,20 +38,16 @@ DiveProfileWindow::DiveProfileWindow(Carnet& carnet)
     auto* column = new QVBoxLayout(this);
     column->addWidget(_preview, 1);
     column->addWidget(_sample);
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(6);
-    grid->setRowStretch(1, 1);
-    for (int i = 0; const ProfileList& list : profileLists()) addList(grid, i++, list);
-    column->addLayout(grid, 2);
+    column->addWidget(makeLists(), 2);
     column->addWidget(makeFoot());
     allotMnemonics(this);
     connect(&_profile.form(), &Form::changed, this, &DiveProfileWindow::refresh);
-    const auto follow = [this] {
-        if (isVisible()) showDive();
+    connect(&carnet, &Document::selectionChanged, this, &DiveProfileWindow::followDive);
+    connect(&carnet.diveForm(), &DiveForm::diveShown, this, &DiveProfileWindow::followDive);
+    connect(&carnet, &Document::fileChanged, this, &DiveProfileWindow::followDive);
+    carnet.settleProfile = [this] {
+        if (isVisible()) settle();
     };
-    connect(&carnet, &Document::selectionChanged, this, follow);
-    connect(&carnet.diveForm(), &DiveForm::diveShown, this, follow);
-    connect(&carnet, &Document::fileChanged, this, follow);
     for (const QKeySequence& key : {QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)})
         connect(new QShortcut(key, this), &QShortcut::activated, this, &QWidget::close);
     const QJsonObject place = carnet.desk().defaults.value(placeKey).toObject();
@@ -60,6 +57,7 @@ DiveProfileWindow::DiveProfileWindow(Carnet& carnet)
 }
 
 DiveProfileWindow::~DiveProfileWindow() {
+    _carnet.settleProfile = {};
     for (const auto& binder : _binders)
         if (binder) binder->widget()->disconnect(binder.get());
 }
@@ -69,6 +67,22 @@ QWidget* DiveProfileWindow::bind(ControlName control) {
     auto& binder = _binders[std::size_t(form[control])];
     binder = makeBinder(form, form[control], _carnet.desk(), _choosers, this);
     return binder->widget();
+}
+
+QWidget* DiveProfileWindow::makeLists() {
+    auto* lists = new QWidget;
+    auto* grid = new QGridLayout(lists);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(6);
+    grid->setRowStretch(1, 1);
+    for (int i = 0; const ProfileList& list : profileLists()) addList(grid, i++, list);
+    // In a window too narrow for seven lists they move sideways.
+    auto* scroller = new QScrollArea(this);
+    scroller->setWidgetResizable(true);
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setFocusPolicy(Qt::NoFocus);
+    scroller->setWidget(lists);
+    return scroller;
 }
 
 void DiveProfileWindow::addList(QGridLayout* grid, int column, const ProfileList& list) {
@@ -113,7 +127,7 @@ QWidget* DiveProfileWindow::makeFoot() {
 }
 
 void DiveProfileWindow::profilInfo() {
-    showDive();
+    isVisible() ? followDive() : showDive();
     if (isMinimized()) showNormal();
     show();
     raise();
@@ -128,12 +142,22 @@ void DiveProfileWindow::refresh(int control) {
     _import->setEnabled(_profile.hasPending() && !_carnet.isReadOnly());
 }
 
+void DiveProfileWindow::followDive() {
+    if (!isVisible()) return;
+    _profile.followDive();
+    showState();
+}
+
 void DiveProfileWindow::showDive() {
     _profile.updateProfilInfo();
+    showState();
+}
+
+void DiveProfileWindow::showState() {
     setWindowTitle(_profile.title());
     const bool isThere = _carnet.selectedRow() >= 0;
     for (const auto& binder : _binders) binder->setLocked(_carnet.isReadOnly() || !isThere);
-    _import->setEnabled(false);
+    _import->setEnabled(_profile.hasPending() && !_carnet.isReadOnly());
     showPreview();
 }
 
@@ -169,12 +193,17 @@ void DiveProfileWindow::importProfil() {
     showDive();
 }
 
-void DiveProfileWindow::closeEvent(QCloseEvent* event) {
+/// What was typed is never lost by going elsewhere: the person says whether it belongs into the dive.
+void DiveProfileWindow::settle() {
+    if (!_profile.hasPending() || _carnet.isReadOnly()) return;
     const Strings& words = _carnet.strings();
-    if (_profile.hasPending() && !_carnet.isReadOnly() &&
-        _carnet.desk().prompt.ask(words.ui("Put the lists that are marked into the dive?"),
+    if (_carnet.desk().prompt.ask(words.ui("Put the lists that are marked into the dive?"),
                                   {words.text({"Main", "Yes"}), words.text({"Main", "No"})}) == 0)
         importProfil();
+}
+
+void DiveProfileWindow::closeEvent(QCloseEvent* event) {
+    settle();
     event->accept();
 }
 

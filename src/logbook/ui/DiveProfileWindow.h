@@ -32,11 +32,15 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    QWidget* makeLists();
     void addList(QGridLayout* grid, int column, const ProfileList& list);
     QWidget* bind(ControlName control);
     QWidget* makeFoot();
     void refresh(int control);
+    void settle();
+    void followDive();
     void showDive();
+    void showState();
     void showPreview();
     void showSample();
     void scrollTogether(int line);

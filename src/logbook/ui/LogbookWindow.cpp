@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QMenu>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -13,6 +14,7 @@
 #include "platform/ui/FittingToolBar.h"
 #include "platform/ui/Icons.h"
 #include "platform/ui/SourceTableView.h"
+#include "platform/ui/WindowState.h"
 
 namespace sargan {
 
@@ -76,6 +78,7 @@ void LogbookWindow::makeActions() {
 
 void LogbookWindow::makeTable() {
     _table->setObjectName(u"plongeesTableView"_s);
+    _table->setAccessibleName(strings().ui("Dives"));
     _table->addActions({_editDive, _add, _delete});
     _table->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(_table, &QTableView::doubleClicked, this, &LogbookWindow::editWindow);
@@ -117,7 +120,7 @@ void LogbookWindow::addToPlace(QJsonObject&) const {
 
 void LogbookWindow::addDive() {
     if (_carnet.isReadOnly()) return;
-    _carnet.storeForm();
+    _carnet.storeTyped();
     _carnet.addDive();
     editWindow();
     _edit->openOn(0);
@@ -130,47 +133,80 @@ void LogbookWindow::deleteDive() {
 }
 
 void LogbookWindow::editWindow() {
-    if (_carnet.selectedRow() < 0) return;
+    if (_carnet.selectedRow() >= 0) edit().openOn(edit().paneShown());
+}
+
+DiveEditWindow& LogbookWindow::edit() {
     if (!_edit)
         _edit =
             std::make_unique<DiveEditWindow>(_carnet, QList{_previous, _next, _profil, _profilData}, _shared);
-    _edit->openOn(_edit->paneShown());
+    return *_edit;
 }
 
 void LogbookWindow::profileGraph() {
-    if (_carnet.selectedRow() < 0) return;
+    if (_carnet.selectedRow() >= 0) graph().open();
+}
+
+GraphProfileWindow& LogbookWindow::graph() {
     if (!_graph) {
         _graph = makeProfileGraph(_carnet);
         _graph->addTools({_previous, _next});
     }
-    _graph->open();
+    return *_graph;
 }
 
 void LogbookWindow::profilInfo() {
     if (_carnet.selectedRow() < 0) return;
     _carnet.storeForm();
+    profileData().profilInfo();
+}
+
+DiveProfileWindow& LogbookWindow::profileData() {
     if (!_profileData) _profileData = std::make_unique<DiveProfileWindow>(_carnet);
-    _profileData->profilInfo();
+    return *_profileData;
 }
 
 QJsonObject LogbookWindow::openParts() const {
-    QJsonObject parts;
-    if (_edit && _edit->isVisible()) parts.insert(u"edit"_s, _edit->paneShown());
-    if (_graph && _graph->isVisible()) parts.insert(u"profile"_s, true);
-    if (_profileData && _profileData->isVisible()) parts.insert(u"profileData"_s, true);
+    QJsonObject parts{{u"search in"_s, _search->place()},
+                      {u"scrolled to"_s, _table->verticalScrollBar()->value()}};
+    if (_edit && _edit->isVisible()) {
+        parts.insert(u"pane"_s, _edit->paneShown());
+        parts.insert(u"edit"_s, stateOf(*_edit));
+    }
+    if (_graph && _graph->isVisible()) parts.insert(u"profile"_s, stateOf(*_graph));
+    if (_profileData && _profileData->isVisible()) {
+        parts.insert(u"lists"_s, valuesOf(_profileData->profile().form()));
+        parts.insert(u"profileData"_s, stateOf(*_profileData));
+    }
+    if (_sheet && _sheet->isVisible()) parts.insert(u"renumbering"_s, true);
     return parts;
 }
 
 void LogbookWindow::reopenParts(const QJsonObject& parts) {
-    if (parts.contains(u"profile"_s)) profileGraph();
-    if (parts.contains(u"profileData"_s)) profilInfo();
-    if (!parts.contains(u"edit"_s)) return;
-    editWindow();
-    if (_edit) _edit->openOn(parts[u"edit"_s].toInt());
+    _search->lookIn(parts[u"search in"_s].toInt());
+    // It was said in other words, and the dives that were found are selected still.
+    _carnet.panel().setText(panelcontrol::found, {});
+    _table->verticalScrollBar()->setValue(parts[u"scrolled to"_s].toInt());
+    if (parts.contains(u"profile"_s)) {
+        bringBack(graph(), parts[u"profile"_s].toObject());
+        graph().open();
+    }
+    if (parts.contains(u"profileData"_s)) {
+        bringBack(profileData(), parts[u"profileData"_s].toObject());
+        profileData().profilInfo();
+        setValues(profileData().profile().form(), parts[u"lists"_s].toObject());
+    }
+    if (parts.contains(u"edit"_s)) {
+        edit().openOn(parts[u"pane"_s].toInt());
+        bringBack(edit(), parts[u"edit"_s].toObject());
+    }
+    if (parts.contains(u"renumbering"_s)) openRenumberSheet();
 }
 
 bool LogbookWindow::mayHavePending() const {
-    return _edit && _edit->isVisible() && !_carnet.isReadOnly();
+    const bool hasForm = _edit && _edit->isVisible();
+    const bool hasTexts = _profileData && _profileData->isVisible() && _profileData->profile().hasPending();
+    return (hasForm || hasTexts) && !_carnet.isReadOnly();
 }
 
 void LogbookWindow::selectEverything() {

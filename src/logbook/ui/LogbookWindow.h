@@ -27,7 +27,8 @@ public:
     /// Actions of this window whose keys are to work in the edit window as well.
     void shareWithEditWindow(const QList<QAction*>& actions) { _shared = actions; }
 
-    void storePending() override { _carnet.storeForm(); }
+    void storePending() override { _carnet.storeTyped(); }
+    void storeBeforeReplaced() override { _carnet.storeForm(); }
     bool mayHavePending() const override;
     QJsonObject openParts() const override;
     void reopenParts(const QJsonObject& parts) override;
@@ -70,6 +71,9 @@ private:
     void validate();
     void showStatus();
     void openRenumberSheet();
+    DiveEditWindow& edit();
+    GraphProfileWindow& graph();
+    DiveProfileWindow& profileData();
 
     Carnet& _carnet;
     SourceTableView* _table;

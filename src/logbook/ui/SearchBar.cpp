@@ -7,6 +7,7 @@
 
 #include "platform/document/DocumentError.h"
 #include "platform/ui/ControlBinder.h"
+#include "platform/ui/Mnemonics.h"
 
 namespace sargan {
 
@@ -51,6 +52,7 @@ SearchBar::SearchBar(Carnet& carnet) : _carnet(carnet), _where(new QToolButton(t
     field->setMinimumWidth(90);
     field->setClearButtonEnabled(true);
     field->setPlaceholderText(carnet.strings().text({"Carnet", "Find"}));
+    field->setAccessibleName(field->placeholderText());
     connect(field, &QLineEdit::returnPressed, this, &SearchBar::search);
     makeMenu();
     line->addStretch(1);
@@ -72,13 +74,13 @@ void SearchBar::makeMenu() {
         QAction* action = menu->addAction(_carnet.strings().text(places[i].words));
         action->setObjectName(QLatin1String(places[i].action));
         action->setCheckable(true);
-        action->setChecked(i == _place);
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, i] {
             lookIn(i);
             search();
         });
     }
+    keepMnemonics(menu);
     _where->setMenu(menu);
     connect(_where, &QToolButton::clicked, this, &SearchBar::search);
     lookIn(_place);
@@ -86,6 +88,7 @@ void SearchBar::makeMenu() {
 
 void SearchBar::lookIn(int place) {
     _place = place;
+    _where->menu()->actions().at(place)->setChecked(true);
     _where->setText(_carnet.strings().text(Message<QString>{"Interface", "Find in: %@", "Find in: %@"},
                                            _carnet.strings().text(places[place].words)));
 }

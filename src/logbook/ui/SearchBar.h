@@ -20,10 +20,12 @@ public:
     ~SearchBar() override;
 
     void startTyping();
+    /// Where the next search looks, as the menu counts.
+    int place() const { return _place; }
+    void lookIn(int place);
 
 private:
     void makeMenu();
-    void lookIn(int place);
     void search();
 
     Carnet& _carnet;

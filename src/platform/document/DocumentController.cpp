@@ -30,20 +30,21 @@ QString DocumentController::defaultType() const {
     return _defaultType.value_or(_kinds.standard().currentTypeName(_desk));
 }
 
-Document* DocumentController::openUntitledDocument() {
+Document* DocumentController::openUntitledDocument(const Filling& fill) {
     const DocumentKind* kind = _kinds.named(defaultType(), _desk);
     if (!kind) return nullptr;
     auto document = kind->create(*kind, _desk);
     const QString untitled = _desk.strings.ui("Untitled");
-    ++_untitledCount;
-    document->setUntitledName(_untitledCount == 1 ? untitled
-                                                  : untitled + u' ' + QString::number(_untitledCount));
+    const int number = _untitledCount + 1;
+    document->setUntitledName(number == 1 ? untitled : untitled + u' ' + QString::number(number));
+    if (fill && !fill(*document)) return nullptr;
+    _untitledCount = number;
     return adopt(std::move(document));
 }
 
-Document* DocumentController::newDocument(const DocumentKind& kind) {
+Document* DocumentController::newDocument(const DocumentKind& kind, const Filling& fill) {
     setDefaultType(kind.currentTypeName(_desk));
-    Document* document = openUntitledDocument();
+    Document* document = openUntitledDocument(fill);
     setDefaultType(std::nullopt);
     return document;
 }

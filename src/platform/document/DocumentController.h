@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -27,10 +28,13 @@ public:
     /// None clears it.
     void setDefaultType(const std::optional<QString>& type) { _defaultType = type; }
 
-    /// A new untitled document of the default type, displayed.
-    Document* openUntitledDocument();
+    /// Puts something into a new document before it is displayed; answers whether it is worth displaying.
+    using Filling = std::function<bool(Document&)>;
+
+    /// A new untitled document of the default type, displayed. Null when `fill` gave it up.
+    Document* openUntitledDocument(const Filling& fill = {});
     /// The same for one kind: sets the default type, opens, and sets the default type back to none.
-    Document* newDocument(const DocumentKind& kind);
+    Document* newDocument(const DocumentKind& kind, const Filling& fill = {});
 
     /// Opens a file, or brings its document to the front when it is open already. A file that another
     /// program has open is offered as a read-only view or as a copy. A file that does not open is told to

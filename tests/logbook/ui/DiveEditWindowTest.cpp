@@ -1,5 +1,6 @@
 #include "LogbookUiTests.h"
 #include "platform/ui/FormView.h"
+#include "platform/ui/PaneScroller.h"
 
 using namespace sargan;
 using namespace Qt::StringLiterals;
@@ -112,6 +113,62 @@ private Q_SLOTS:
         logbook.edit()->view().showPane((pane + 1) % 6);
         logbook.pressInEdit(("goView_" + QByteArray::number(pane + 1)).constData());
         QCOMPARE(logbook.edit()->view().currentPane(), pane);
+    }
+
+    void theWindowFitsItsPane() {
+        LogbookOnScreen logbook(1);
+        logbook.clickRow(0);
+        logbook.openEdit();
+        const auto turnTo = [&](int pane) {
+            QTest::keyClick(logbook.edit(), Qt::Key(Qt::Key_1 + pane), Qt::ControlModifier);
+            QCoreApplication::processEvents();
+            return logbook.edit()->size();
+        };
+        const int least = std::min(960, logbook.edit()->screen()->availableSize().width() - 20);
+        for (int pane = 0; pane < 6; ++pane) {
+            const QSize size = turnTo(pane);
+            for (const auto* scroller : logbook.edit()->findChildren<PaneScroller*>()) {
+                if (!scroller->isVisible()) continue;
+                const QSize room = scroller->size() - scroller->sizeSideBySide();
+                QVERIFY2(room.width() >= 0 && room.height() >= 0, qPrintable(scroller->objectName()));
+                // No room is left over but for what every pane is given at least.
+                QVERIFY2(room.height() == 0 || size.height() == 420, qPrintable(scroller->objectName()));
+                QVERIFY2(room.width() == 0 || size.width() == least, qPrintable(scroller->objectName()));
+            }
+        }
+        // Deco is the highest, then gas; from whichever pane one comes.
+        for (const int from : {0, 1, 4, 5}) {
+            turnTo(from);
+            const int deco = turnTo(2).height();
+            turnTo(from);
+            const int gas = turnTo(3).height();
+            QVERIFY2(deco > gas && gas > 420, qPrintable(QString::number(from)));
+        }
+    }
+
+    void aPaneKeepsTheSizeThatItWasGiven() {
+        LogbookOnScreen logbook(1);
+        logbook.clickRow(0);
+        logbook.openEdit();
+        QCoreApplication::processEvents();
+        const auto turnTo = [](DiveEditWindow* window, int pane) {
+            QTest::keyClick(window, Qt::Key(Qt::Key_1 + pane), Qt::ControlModifier);
+            QCoreApplication::processEvents();
+            return window->size();
+        };
+        const QSize notes = turnTo(logbook.edit(), 5);
+        logbook.edit()->resize(700, 500);
+        const QSize general = turnTo(logbook.edit(), 0);
+        QVERIFY(general != QSize(700, 500));
+        QVERIFY(notes != QSize(700, 500));
+        QCOMPARE(turnTo(logbook.edit(), 5), QSize(700, 500));
+        logbook.edit()->close();
+        DiveEditWindow again(*logbook.carnet, {}, {});
+        again.openOn(0);
+        QVERIFY(QTest::qWaitForWindowActive(&again));
+        QCoreApplication::processEvents();
+        QCOMPARE(again.size(), general);
+        QCOMPARE(turnTo(&again, 5), QSize(700, 500));
     }
 
     void undoTakesBackTypingFirstAndThenTheOperation() {

@@ -82,6 +82,23 @@ private Q_SLOTS:
         QCOMPARE(window->windowTitle(), u"Dive 2 – profile data"_s);
     }
 
+    void itFitsASmallScreen() {
+        LogbookOnScreen logbook(1);
+        logbook.clickRow(0);
+        DiveProfileWindow* window = open(logbook);
+        window->resize(420, 380);
+        QCOMPARE(window->size(), QSize(420, 380));
+        auto* put = in<QWidget>(window, "importProfil");
+        QVERIFY(window->rect().contains(QRect(put->mapTo(window, QPoint()), put->size())));
+        // The keyboard brings a list to light that stands beyond the edge.
+        auto* last = in<QPlainTextEdit>(window, "importPRESS_Field");
+        QVERIFY(last->mapTo(window, QPoint()).x() > window->width());
+        for (int i = 0; i < 30 && window->focusWidget() != last; ++i)
+            QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+        QCOMPARE(window->focusWidget(), last);
+        QVERIFY(last->mapTo(window, QPoint(50, 0)).x() < window->width());
+    }
+
     void itOpensFromTheEditWindowToo() {
         LogbookOnScreen logbook(1);
         logbook.clickRow(0);

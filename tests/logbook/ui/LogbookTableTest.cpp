@@ -43,11 +43,6 @@ class LogbookTableTest : public QObject {
         return table.list().columns()[section].identifier + (isUp ? u" up"_s : u" down"_s);
     }
 
-    static void search(const LogbookOnScreen& logbook, const char* place, const QString& text) {
-        formwalk::typeInto(logbook.window->findChild<QWidget*>(u"searchField"_s), text);
-        logbook.window->findChild<QAction*>(QLatin1String(place))->trigger();
-    }
-
 private Q_SLOTS:
     void everyColumnIsNamedAfterTheFieldItShows() {
         for (const DiveColumn& column : diveColumns())
@@ -93,6 +88,22 @@ private Q_SLOTS:
         QVERIFY(logbook.shownSelection().isEmpty());
     }
 
+    void homeAndEndGoToTheFirstAndTheLastDive() {
+        LogbookOnScreen logbook(4);
+        SourceTableView& table = logbook.window->table();
+        QTest::keyClick(&table, Qt::Key_Home);
+        QCOMPARE(logbook.carnet->selection(), Selection{0});
+        QTest::keyClick(&table, Qt::Key_End);
+        QCOMPARE(logbook.carnet->selection(), Selection{3});
+        QTest::keyClick(&table, Qt::Key_Home);
+        QCOMPARE(logbook.carnet->selection(), Selection{0});
+        QTest::keyClick(&table, Qt::Key_End, Qt::ShiftModifier);
+        QCOMPARE(logbook.carnet->selection(), (Selection{0, 1, 2, 3}));
+        LogbookOnScreen empty;
+        QTest::keyClick(&empty.window->table(), Qt::Key_End);
+        QCOMPARE(empty.carnet->selection(), Selection{});
+    }
+
     void aDoubleClickOpensTheDive() {
         LogbookOnScreen logbook(3);
         logbook.clickRow(1);
@@ -100,43 +111,6 @@ private Q_SLOTS:
         QTest::mouseDClick(logbook.window->table().viewport(), Qt::LeftButton, {}, cell.center());
         QVERIFY(logbook.edit() && logbook.edit()->isVisible());
         QCOMPARE(logbook.field<QLineEdit>("plongeeNoField")->text(), u"2"_s);
-    }
-
-    void theSearchSelectsAndCounts() {
-        LogbookOnScreen logbook(12);
-        const auto* found = logbook.window->findChild<QLabel*>(u"foundDivesField"_s);
-        logbook.carnet->select({0});
-        Form& form = logbook.carnet->form();
-        form.setText(ControlName{"notesField"}, u"A big Grouper"_s);
-        logbook.carnet->updateDive();
-        search(logbook, "findInNotes", u"grouper"_s);
-        QCOMPARE(found->text(), u"One dive found"_s);
-        QCOMPARE(logbook.shownSelection(), Selection{0});
-        search(logbook, "findInBateaux", u""_s);
-        QCOMPARE(found->text(), u"12 dives found"_s);
-        QCOMPARE(logbook.carnet->selection().size(), 12);
-        search(logbook, "findInPartenaires", u"nobody"_s);
-        QCOMPARE(found->text(), u"0 dives found"_s);
-        QVERIFY(logbook.shownSelection().isEmpty());
-    }
-
-    void returnSearchesInTheChosenPlace() {
-        LogbookOnScreen logbook(2);
-        search(logbook, "findInEpaves", u"x"_s);
-        logbook.carnet->select({1});
-        logbook.carnet->form().setText(ControlName{"epavesField"}, u"Rubis"_s);
-        logbook.carnet->updateDive();
-        auto* field = logbook.window->findChild<QLineEdit*>(u"searchField"_s);
-        formwalk::typeInto(field, u"rub"_s);
-        QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(logbook.carnet->selection(), Selection{1});
-    }
-
-    void theSearchInComputersEndsInAnAlert() {
-        LogbookOnScreen logbook(1);
-        logbook.desk.prompt.expectAlert(UnknownKeyError(u"ordi"_s, u"Plongee"_s).sentence());
-        search(logbook, "findInOrdinateurs", u"x"_s);
-        QCOMPARE(logbook.desk.prompt.finish(), QStringList());
     }
 
     void theTableFollowsTheListWithoutLosingItsPlace_data() {
@@ -239,6 +213,17 @@ private Q_SLOTS:
         LogbookWindow again(*logbook.carnet);
         QCOMPARE(again.table().columnOrder(), order);
         QCOMPARE(again.table().columnWidth(5), logbook.window->table().columnWidth(5));
+    }
+
+    void rowsAreCopiedAsTheyAreSeen() {
+        LogbookOnScreen logbook(2);
+        for (const QString& column : {u"date"_s, u"site"_s, u"heure"_s, u"temps"_s, u"tempEau"_s, u"deco"_s,
+                                      u"coeff"_s, u"visibilite"_s, u"inoubliable"_s})
+            logbook.carnet->diveTable().setColumn(column, false);
+        logbook.window->table().reloadColumns();
+        logbook.window->table().horizontalHeader()->moveSection(2, 0);
+        logbook.carnet->select({0, 1});
+        QCOMPARE(logbook.window->copiedText(), u"11 m\t1\tPlace 1\n12 m\t2\tPlace 2"_s);
     }
 
     void theWindowShowsTheProfileOfTheSelectedDive() {

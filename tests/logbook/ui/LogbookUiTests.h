@@ -12,9 +12,11 @@
 
 int runDiveEditWindowTest(int argc, char** argv);
 int runDiveLayoutTest(int argc, char** argv);
+int runDiveProfileLeavingTest(int argc, char** argv);
 int runDiveProfileWindowTest(int argc, char** argv);
 int runDiveTypingTest(int argc, char** argv);
 int runLogbookEditingTest(int argc, char** argv);
+int runLogbookSearchTest(int argc, char** argv);
 int runLogbookTableTest(int argc, char** argv);
 
 namespace sargan {

@@ -2,7 +2,8 @@
 #include "support/GuiMain.h"
 
 int main(int argc, char** argv) {
-    return runGuiTests(argc, argv,
-                       {runDiveLayoutTest, runDiveEditWindowTest, runDiveProfileWindowTest, runDiveTypingTest,
-                        runLogbookEditingTest, runLogbookTableTest});
+    return runGuiTests(
+        argc, argv,
+        {runDiveLayoutTest, runDiveEditWindowTest, runDiveProfileWindowTest, runDiveProfileLeavingTest,
+         runDiveTypingTest, runLogbookEditingTest, runLogbookTableTest, runLogbookSearchTest});
 }

@@ -1,9 +1,11 @@
 #include <sys/stat.h>
 
+#include <QRegularExpression>
 #include <QTest>
 
 #include "platform/archive/ArchiveError.h"
 #include "platform/document/DocumentTests.h"
+#include "platform/document/Sentences.h"
 #include "platform/files/Folder.h"
 #include "support/Golden.h"
 #include "support/TestDesk.h"
@@ -91,6 +93,53 @@ private Q_SLOTS:
         QVERIFY2(sentence.contains(path.section(u'/', -1)), qPrintable(sentence));
         QVERIFY2(sentence.contains(reason), qPrintable(sentence));
         QVERIFY(!sentence.contains(u'\n'));
+    }
+
+    void whatIsWrongIsToldInTheLanguageOfTheProgram_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("french");
+        QTest::newRow("empty")
+            << QByteArray("")
+            << u"0\u00a0: attendu\u00a0: une archive\u00a0; trouvé\u00a0: la fin du fichier."_s;
+        QTest::newRow("other start")
+            << QByteArray("<html/>")
+            << u"0\u00a0: attendu\u00a0: la version d’archiveur 4\u00a0; trouvé\u00a0: la version 60."_s;
+        // 04 version, 0b length, then 9 of the 11 letters.
+        QTest::newRow("words within words")
+            << QByteArray("\x04\x0bstreamtyp")
+            << u"2\u00a0: attendu\u00a0: une signature (octets\u00a0: 11)\u00a0; trouvé\u00a0: la fin du fichier après 9 octets."_s;
+    }
+    void whatIsWrongIsToldInTheLanguageOfTheProgram() {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, french);
+        const Folder folder;
+        const QString path = put(folder, bytes);
+        const Strings strings(Strings::Language::French);
+        QString told;
+        try {
+            DocumentController(_desk.kinds, _desk.desk).read(path);
+        } catch (const DocumentError& error) {
+            told = sentenceIn(strings, error);
+        }
+        QCOMPARE(told, path + u": Il est abîmé à l’octet "_s + french);
+    }
+
+    void theRecordAndTheSlotAreToldInEveryLanguage() {
+        const Folder folder;
+        // Cut within the seven lists of the first dive.
+        const QString path = put(folder, golden::bytes(u"plongee-v27.carnet"_s).left(200));
+        for (const Strings::Language language : {Strings::Language::English, Strings::Language::French}) {
+            const Strings strings(language);
+            QString told;
+            try {
+                DocumentController(_desk.kinds, _desk.desk).read(path);
+            } catch (const DocumentError& error) {
+                told = sentenceIn(strings, error);
+            }
+            static const QRegularExpression place(
+                u" \\(Plongee 0, (profilProfondeur|ASC_Flag|SLOW_Flag|SURF_Flag|CEIL_Flag|GAZ_Flag)\\)\\.$"_s);
+            QVERIFY2(told.contains(place), qPrintable(told));
+        }
     }
 
     void aFileThatMayNotBeReadIsTold() {

@@ -5,6 +5,7 @@
 
 // Each runs one test class of this folder and returns the number of its failures.
 int runBadInputTest(int argc, char** argv);
+int runColumnOrderTest(int argc, char** argv);
 int runDocumentControllerTest(int argc, char** argv);
 int runDocumentFileTest(int argc, char** argv);
 int runLockedDocumentTest(int argc, char** argv);

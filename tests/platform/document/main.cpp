@@ -4,5 +4,5 @@
 int main(int argc, char** argv) {
     return runTests(argc, argv,
                     {runHistoryTest, runRecordDocumentTest, runDocumentFileTest, runDocumentControllerTest,
-                     runLockedDocumentTest, runBadInputTest});
+                     runLockedDocumentTest, runBadInputTest, runColumnOrderTest});
 }
