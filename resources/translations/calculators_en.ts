@@ -4,6 +4,10 @@
 <context>
     <name>Calculators</name>
     <message>
+        <source>%@: %@</source>
+        <translation>%@: %@</translation>
+    </message>
+    <message>
         <source>Copy results (Ctrl+Shift+C)</source>
         <translation>Copy results (Ctrl+Shift+C)</translation>
     </message>
@@ -108,8 +112,8 @@
         <translation>Cubic inches</translation>
     </message>
     <message>
-        <source>Decimal degrees, to a few metres</source>
-        <translation>Decimal degrees, to a few metres</translation>
+        <source>Decimal degrees, to some 20 m (height: no use)</source>
+        <translation>Decimal degrees, to some 20 m (height: no use)</translation>
     </message>
     <message>
         <source>Degrees, minutes and seconds: ED50 → WGS84</source>

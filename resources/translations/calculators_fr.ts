@@ -4,6 +4,10 @@
 <context>
     <name>Calculators</name>
     <message>
+        <source>%@: %@</source>
+        <translation>%@ : %@</translation>
+    </message>
+    <message>
         <source>Copy results (Ctrl+Shift+C)</source>
         <translation>Copier les résultats (Ctrl+Maj+C)</translation>
     </message>
@@ -108,8 +112,8 @@
         <translation>Pouces cubes</translation>
     </message>
     <message>
-        <source>Decimal degrees, to a few metres</source>
-        <translation>Degrés décimaux, à quelques mètres près</translation>
+        <source>Decimal degrees, to some 20 m (height: no use)</source>
+        <translation>Degrés décimaux, à une vingtaine de mètres (hauteur inutilisable)</translation>
     </message>
     <message>
         <source>Degrees, minutes and seconds: ED50 → WGS84</source>

@@ -1,6 +1,14 @@
 #include "calculators/Calculator.h"
 
+#include "platform/form/SystemColors.h"
+
 namespace sargan {
+
+namespace {
+
+constexpr Message<QString, QString> labelled{"Calculators", "%@: %@", "%@: %@"};
+
+}  // namespace
 
 Calculator::Calculator(const CalculatorSpec& spec, Desk& desk)
     : _spec(spec), _desk(desk), _form(spec.controls), _controller(spec.make(spec, _form, desk)) {
@@ -16,10 +24,15 @@ QString Calculator::resultLine(const LayoutItem& item) const {
         return item.control && qstrcmp(result, item.control) == 0;
     };
     if (std::none_of(_spec.results.begin(), _spec.results.end(), isSame)) return {};
-    const QString text = _form.text(ControlName{item.control});
-    if (text.isEmpty()) return {};
-    if (item.unit.key) return text + u' ' + _desk.strings.text(item.unit);
-    return item.label.key ? _desk.strings.text(item.label) + QStringLiteral(": ") + text : text;
+    const ControlState& state = _form.state(_form[ControlName{item.control}]);
+    QString line = state.text;
+    if (line.isEmpty()) return {};
+    if (item.unit.key)
+        line += u' ' + _desk.strings.text(item.unit);
+    else if (item.label.key)
+        line = _desk.strings.text(labelled, _desk.strings.text(item.label), line);
+    if (state.color == systemcolor::red) line += u' ' + _desk.strings.text(outsideLimits);
+    return line;
 }
 
 QString Calculator::resultText() const {

@@ -10,6 +10,9 @@ class Calculator {
 public:
     Calculator(const CalculatorSpec& spec, Desk& desk);
 
+    /// Said of a result that is shown in red.
+    static constexpr Message<> outsideLimits{"Calculators", "⚠ outside the limits", "⚠ outside the limits"};
+
     const CalculatorSpec& spec() const { return _spec; }
     Form& form() { return _form; }
     const Form& form() const { return _form; }
@@ -17,6 +20,7 @@ public:
     CalculatorController& controller() { return *_controller; }
 
     /// The results of the pane in view that have a text, each on a line with its label or unit: to be copied.
+    /// What is red in the window is marked in words, as it is there.
     QString resultText() const;
 
 private:

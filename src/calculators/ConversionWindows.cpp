@@ -62,7 +62,7 @@ CalculatorSpec gps() {
                               {"longitude_in_minutesField", "′"},
                               {"longitude_in_secondsField", "″"}})
         .button("convertGPS", "Convert")
-        .section("Decimal degrees, to a few metres")
+        .section("Decimal degrees, to some 20 m (height: no use)")
         .input("latitude_inField", "Latitude", "°")
         .input("longitude_inField", "Longitude", "°")
         .popUp("geodesiePopUp", "Direction", directions, 0)

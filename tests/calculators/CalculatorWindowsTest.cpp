@@ -170,6 +170,27 @@ private Q_SLOTS:
         }
     }
 
+    void whatIsCopiedMarksTheRedRowsInWords() {
+        Workbench bench("SCR Flow Calc", Strings::Language::English);
+        bench.press(u"idEanxField=50 idRealFracO2Field=30 idMetabolicField=1"_s);
+        const QStringList lines = bench.calculator().resultText().split(u'\n');
+        QCOMPARE(lines.size(), 12);
+        QCOMPARE(lines.first(3), QStringList({u"Ideal flow: 3.50 l/min"_s,
+                                              u"0.8 l/min: flow 2.80 l/min ⚠ outside the limits"_s,
+                                              u"0.9 l/min: flow 3.15 l/min"_s}));
+    }
+
+    void whatIsCopiedHasItsLabels() {
+        const auto copied = [](Strings::Language language) {
+            Workbench bench("Gps", language);
+            bench.press(u"longitude_inField=5.5 latitude_inField=43.25"_s, u"convertGPS2"_s);
+            return bench.calculator().resultText();
+        };
+        QCOMPARE(copied(Strings::Language::English),
+                 u"Latitude: 43.248893\nLongitude: 5.498902\nHeight: Altitude : 2871.74 m"_s);
+        QVERIFY(copied(Strings::Language::French).startsWith(u"Latitude : 43.248893\n"_s));
+    }
+
     void anActionOfAnotherWindowIsUnknown() {
         Workbench bench("Nitrox Prof Max");
         QVERIFY_THROWS_EXCEPTION(UnknownControlError, bench.form().press(u"bestMix"_s));

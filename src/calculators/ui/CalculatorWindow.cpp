@@ -140,6 +140,9 @@ void CalculatorWindow::copyResults() const {
 void CalculatorWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) build();
+    // Colours are chosen by the background; the view has to take its new one first.
+    if (event->type() == QEvent::PaletteChange && _marks)
+        QMetaObject::invokeMethod(_marks, &ResultMarks::updateAll, Qt::QueuedConnection);
 }
 
 void CalculatorWindow::showEvent(QShowEvent* event) {

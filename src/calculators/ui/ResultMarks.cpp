@@ -1,22 +1,25 @@
 #include "calculators/ui/ResultMarks.h"
 
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLayout>
 
-#include "calculators/WindowBuilder.h"
+#include "calculators/Calculator.h"
 #include "platform/form/SystemColors.h"
+#include "platform/ui/LegibleColor.h"
 
 namespace sargan {
 
 namespace {
 
 QString richText(const QList<TextRun>& runs) {
+    const QColor window = QGuiApplication::palette().color(QPalette::Window);
     QString html;
     for (const TextRun& run : runs) {
         const QString text = run.text.toHtmlEscaped();
-        html += run.color.isValid()
-                    ? QStringLiteral("<span style=\"color:%1\">%2</span>").arg(run.color.name(), text)
-                    : text;
+        html += run.color.isValid() ? QStringLiteral("<span style=\"color:%1\">%2</span>")
+                                          .arg(legibleOn(window, run.color).name(), text)
+                                    : text;
     }
     return QStringLiteral("<p style=\"white-space:pre-wrap\">") + html + QStringLiteral("</p>");
 }
@@ -52,7 +55,7 @@ void ResultMarks::update(int control) {
 QLabel* ResultMarks::markOf(QLabel* result) {
     QLabel*& mark = _marks[result];
     if (!mark) {
-        mark = new QLabel(_desk.strings.text(calculatorWord("⚠ outside the limits")), result->parentWidget());
+        mark = new QLabel(_desk.strings.text(Calculator::outsideLimits), result->parentWidget());
         mark->setObjectName(result->objectName() + QStringLiteral("Mark"));
         mark->setTextFormat(Qt::PlainText);
         auto* line = qobject_cast<QBoxLayout*>(result->parentWidget()->layout());

@@ -1,7 +1,5 @@
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QTest>
 
 #include "CalculatorUiTests.h"
@@ -174,39 +172,6 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::clipboard()->text(), u"200 bar\n2900.754 psi"_s);
     }
 
-    void dangerousRowsAreMarkedBesideTheirColour() {
-        WindowBench bench;
-        bench.open("SCR Flow Calc");
-        bench.type("idEanxField", u"50"_s);
-        bench.type("idRealFracO2Field", u"30"_s);
-        bench.press(Qt::Key_Return);
-        auto* red = bench.find<QLabel>("d08Field");
-        auto* black = bench.find<QLabel>("d10Field");
-        QCOMPARE(red->palette().color(QPalette::WindowText), QColor(Qt::red));
-        QVERIFY(red->font().bold());
-        QVERIFY(bench.find<QLabel>("d08FieldMark")->isVisible());
-        QCOMPARE(bench.shown("d08FieldMark"), u"⚠ outside the limits"_s);
-        QVERIFY(!black->font().bold());
-        QVERIFY(!bench.window->findChild<QLabel*>(u"d10FieldMark"_s));
-        bench.type("idEanxField", u"40"_s);  // 0.8 x 0.7/0.1 = 5.6
-        bench.press(Qt::Key_Return);
-        QVERIFY(!red->font().bold());
-        QVERIFY(!bench.find<QLabel>("d08FieldMark")->isVisible());
-    }
-
-    void theCalculationHasItsColours() {
-        WindowBench bench;
-        CalculatorWindow& window = bench.open("Gps");
-        bench.type("latitude_in_degreeField", u"43"_s);
-        bench.press(Qt::Key_Return);
-        const auto headings = [&] { return bench.shown("gpsDataField").count(u"color:#0000ff"_s); };
-        QCOMPARE(headings(), 2);
-        window.close();
-        window.calculator().form().press(u"convertGPS"_s);
-        window.bringToFront();
-        QCOMPARE(headings(), 2);
-    }
-
     void closingKeepsWhatIsInTheWindow() {
         WindowBench bench;
         CalculatorWindow& window = bench.open("Nitrox Prof Max");
@@ -233,51 +198,6 @@ private Q_SLOTS:
         QCOMPARE(bench.typed("profondeurMaxField"), u"30"_s);
         QTest::mouseClick(bench.find<QPushButton>("bestMix"), Qt::LeftButton);
         QCOMPARE(bench.shown("resultatField"), u"Meilleur mélange : 35.0 % O₂"_s);
-    }
-
-    void eachWindowShowsAllOfItself_data() {
-        QTest::addColumn<QString>("window");
-        for (const CalculatorSpec& spec : calculatorSpecs())
-            QTest::newRow(spec.layout.name) << QString::fromLatin1(spec.layout.name);
-    }
-    /// In either language nothing is cut off or needs scrolling, neither at first nor with results.
-    void eachWindowShowsAllOfItself() {
-        QFETCH(QString, window);
-        for (const auto language : {Strings::Language::English, Strings::Language::French}) {
-            WindowBench bench(language);
-            bench.open(window.toLatin1());
-            QTRY_COMPARE(cutOff(*bench.window), QString());
-            for (const char* action : bench.window->calculator().spec().actions)
-                bench.window->calculator().form().press(QLatin1String(action));
-            QTRY_COMPARE(cutOff(*bench.window), QString());
-            for (const ControlSpec& control : bench.window->calculator().spec().controls)
-                QVERIFY2(bench.window->findChild<QWidget*>(QLatin1String(control.name)), control.name);
-            keepPicture(*bench.window, language);
-        }
-    }
-
-private:
-    /// What is too narrow or scrolls; empty when all is in view.
-    static QString cutOff(const CalculatorWindow& window) {
-        for (const QScrollArea* pane : window.view().findChildren<QScrollArea*>()) {
-            const QSize needed = pane->widget()->minimumSizeHint();
-            const QSize room = pane->viewport()->size();
-            const bool scrolls =
-                pane->horizontalScrollBar()->isVisible() || pane->verticalScrollBar()->isVisible();
-            if (scrolls || needed.width() > room.width() || needed.height() > room.height())
-                return pane->objectName();
-        }
-        for (const QLabel* label : window.view().findChildren<QLabel*>())
-            if (label->isVisible() && label->width() < label->minimumSizeHint().width()) return label->text();
-        return {};
-    }
-
-    /// For the documentation and for those who want to look: set SARGAN_PICTURES to a folder.
-    static void keepPicture(CalculatorWindow& window, Strings::Language language) {
-        const QString folder = qEnvironmentVariable("SARGAN_PICTURES");
-        if (folder.isEmpty()) return;
-        const QString ending = language == Strings::Language::English ? u"-en.png"_s : u"-fr.png"_s;
-        QVERIFY(window.grab().save(folder + u'/' + window.objectName() + ending));
     }
 };
 

@@ -2,5 +2,5 @@
 #include "support/GuiMain.h"
 
 int main(int argc, char** argv) {
-    return runGuiTests(argc, argv, {runCalculatorWindowTest, runCalculatorMenuTest});
+    return runGuiTests(argc, argv, {runCalculatorWindowTest, runCalculatorLooksTest, runCalculatorMenuTest});
 }
