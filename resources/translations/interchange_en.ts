@@ -186,6 +186,10 @@
         <translation>“%@”</translation>
     </message>
     <message>
+        <source>Dives from other programs</source>
+        <translation>Dives from other programs</translation>
+    </message>
+    <message>
         <source>“%@” was written.</source>
         <translation>“%@” was written.</translation>
     </message>

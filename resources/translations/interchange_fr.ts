@@ -186,6 +186,10 @@
         <translation>« %@ »</translation>
     </message>
     <message>
+        <source>Dives from other programs</source>
+        <translation>Plongées d’autres programmes</translation>
+    </message>
+    <message>
         <source>“%@” was written.</source>
         <translation>« %@ » a été écrit.</translation>
     </message>

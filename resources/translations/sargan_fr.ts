@@ -532,7 +532,7 @@
     </message>
     <message>
         <source>Document damaged</source>
-        <translation>Il est abîmé à l’octet %@ (%@).</translation>
+        <translation>Il est abîmé à l’octet %@ : %@.</translation>
     </message>
     <message>
         <source>Document other type</source>

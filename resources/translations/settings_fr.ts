@@ -112,7 +112,7 @@
     </message>
     <message>
         <source>Dives abroad</source>
-        <translation>Plongées à l'étranger</translation>
+        <translation>Plongées à l’étranger</translation>
     </message>
     <message>
         <source>Dives that stand out</source>
@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>First values into all panes; nothing is stored before you save</source>
-        <translation>Remet les valeurs d'origine dans tous les volets ; rien n'est enregistré avant « Enregistrer »</translation>
+        <translation>Remet les valeurs d’origine dans tous les volets ; rien n’est enregistré avant « Enregistrer »</translation>
     </message>
     <message>
         <source>Français</source>
@@ -176,7 +176,7 @@
     </message>
     <message>
         <source>Life of a cell</source>
-        <translation>Durée de vie d'une cellule</translation>
+        <translation>Durée de vie d’une cellule</translation>
     </message>
     <message>
         <source>Light</source>
@@ -244,7 +244,7 @@
     </message>
     <message>
         <source>Reset</source>
-        <translation>Valeurs d'origine</translation>
+        <translation>Valeurs d’origine</translation>
     </message>
     <message>
         <source>Saved</source>
@@ -296,11 +296,11 @@
     </message>
     <message>
         <source>Water temperature</source>
-        <translation>Température de l'eau</translation>
+        <translation>Température de l’eau</translation>
     </message>
     <message>
         <source>Wreck types</source>
-        <translation>Types d'épave</translation>
+        <translation>Types d’épave</translation>
     </message>
     <message>
         <source>months</source>

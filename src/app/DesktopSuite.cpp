@@ -1,12 +1,28 @@
 #include "app/DesktopSuite.h"
 
+#include <QFileInfo>
+
 #include "app/MainMenu.h"
 #include "app/ReminderWindow.h"
 #include "app/StartWindow.h"
+#include "interchange/Formats.h"
 #include "interchange/ui/InterchangeActions.h"
 #include "platform/ui/DocumentWindow.h"
 
 namespace sargan {
+
+namespace {
+
+/// Who imports a file's dives; null for a document. Those can be large, and are known by their extension
+/// without being read.
+const DiveReader* readerOf(const QString& path, const DocumentKinds& kinds) {
+    const QString extension = QFileInfo(path).suffix();
+    for (const DocumentKind& kind : kinds.all())
+        if (extension.compare(QLatin1String(kind.extension), Qt::CaseInsensitive) == 0) return nullptr;
+    return diveReaderOfFile(path);
+}
+
+}  // namespace
 
 DesktopSuite::DesktopSuite(const DocumentKinds& kinds, Desk& desk)
     : choosers(),
@@ -36,7 +52,13 @@ void DesktopSuite::launch(const QStringList& files) {
 }
 
 void DesktopSuite::openFiles(const QStringList& files) {
-    for (const QString& file : files) _controller.openFile(file);
+    QHash<const DiveReader*, QStringList> dives;
+    for (const QString& file : files)
+        if (const DiveReader* reader = readerOf(file, _controller.kinds()))
+            dives[reader] << file;
+        else
+            _controller.openFile(file);
+    if (!dives.isEmpty()) _controller.openDives(dives);
 }
 
 void DesktopSuite::takeOver(const QStringList& files) {

@@ -14,13 +14,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QStringList diveFilePatterns() {
+    QStringList patterns;
+    for (const DiveReader* reader : diveReaders())
+        for (const QString& suffix : reader->suffixes())
+            if (!patterns.contains(u"*."_s + suffix)) patterns << u"*."_s + suffix;
+    return patterns;
+}
+
 QString documentFilters(const MyDocumentController& controller) {
     QStringList patterns;
     for (const DocumentKind& kind : controller.kinds().all())
         patterns << u"*."_s + QLatin1String(kind.extension);
     const Strings& strings = controller.desk().strings;
-    return strings.ui("Documents") + u" ("_s + patterns.join(u' ') + u");;"_s + strings.ui("All files") +
-           u" (*)"_s;
+    return strings.ui("Documents") + u" ("_s + patterns.join(u' ') + u");;"_s +
+           strings.ui("Dives from other programs") + u" ("_s + diveFilePatterns().join(u' ') + u");;"_s +
+           strings.ui("All files") + u" (*)"_s;
 }
 
 QString folderToStart(const MyDocumentController& controller) {
@@ -35,10 +44,10 @@ SaveChoice chooseWhereToSave(const Document& document, const QString& suggested,
     const Strings& strings = controller.desk().strings;
     const QStringList own{u"*."_s + QLatin1String(document.kind().extension),
                           strings.ui("All files") + u" (*)"_s};
-    return askWhereToSave(QApplication::activeWindow(), strings.ui("Save As"),
-                          document.path().isEmpty() ? folderToStart(controller)
-                                                    : QFileInfo(document.path()).absolutePath(),
-                          suggested, document, own);
+    return askWhereToSave(
+        QApplication::activeWindow(), strings.ui("Save As"),
+        document.path().isEmpty() ? folderToStart(controller) : QFileInfo(document.path()).absolutePath(),
+        suggested, document, own);
 }
 
 }  // namespace

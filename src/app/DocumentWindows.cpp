@@ -2,6 +2,7 @@
 
 #include "logbook/ui/DiveEditWindow.h"
 #include "logbook/ui/LogbookWindow.h"
+#include "platform/ui/WindowState.h"
 #include "registers/ui/RegisterWindow.h"
 
 namespace sargan {
@@ -54,15 +55,18 @@ void DocumentWindows::remakeAll() {
 
 void DocumentWindows::remake(Document* document) {
     auto& window = _windows[document];
-    window->storePending();
+    window->storeBeforeReplaced();
     window->rememberPlace();
-    const QByteArray geometry = window->saveGeometry();
+    const QJsonObject state = stateOf(*window);
     const QJsonObject parts = window->openParts();
     const bool isShown = window->isVisible();
+    Q_EMIT window->replaced();
+    const auto companions = window->companions;
     window.reset();
     window = makeWindow(*document);
+    window->companions = companions;
     Q_EMIT windowMade(window.get());
-    window->restoreGeometry(geometry);
+    bringBack(*window, state);
     if (isShown) window->show();
     window->reopenParts(parts);
 }

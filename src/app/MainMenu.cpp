@@ -10,6 +10,7 @@
 #include "logbook/ui/LogbookWindow.h"
 #include "platform/ui/EditMenu.h"
 #include "platform/ui/Icons.h"
+#include "platform/ui/Mnemonics.h"
 #include "registers/ui/RegisterWindow.h"
 #include "stats/ui/StatsActions.h"
 
@@ -79,6 +80,7 @@ MainMenu::MainMenu(DocumentWindow& window, DesktopSuite& suite)
         list->shareWithEditWindow(edit->undoActions() << _save);
         connect(list, &RegisterWindow::saveWanted, this, &MainMenu::save);
     }
+    keepMnemonics(window.menuBar());
 }
 
 QAction* MainMenu::add(QMenu* menu, const char* name, const QString& text, const QKeySequence& key,

@@ -5,6 +5,9 @@
 
 #include "app/LoadingWindow.h"
 #include "app/ReminderWindow.h"
+#include "interchange/Formats.h"
+#include "interchange/ui/InterchangeActions.h"
+#include "logbook/Carnet.h"
 #include "settings/ui/PreferencesWindow.h"
 
 namespace sargan {
@@ -33,6 +36,19 @@ Document* MyDocumentController::openFile(const QString& path) {
     if (QFileInfo(path).size() > bytesReadIn300ms) showLoadingWindow();
     const auto done = qScopeGuard([this] { disposeLoadingWindow(); });
     Document* document = openDocument(path);
+    if (document) closeLater(untouched);
+    return document;
+}
+
+Document* MyDocumentController::openDives(const QHash<const DiveReader*, QStringList>& files) {
+    const std::vector<Document*> untouched = untouchedDocuments();
+    Document* document = newDocument(kinds().standard(), [&files](Document& made) {
+        auto* carnet = qobject_cast<Carnet*>(&made);
+        if (!carnet) return false;
+        for (const DiveReader* reader : diveReaders())
+            if (files.contains(reader)) importAndTell(*carnet, files[reader], *reader);
+        return carnet->count() > 0;
+    });
     if (document) closeLater(untouched);
     return document;
 }

@@ -4,6 +4,7 @@
 
 namespace sargan {
 
+class DiveReader;
 class LoadingWindow;
 class PreferencesWindow;
 class ReminderWindow;
@@ -21,6 +22,9 @@ public:
     Document* newDocumentMenuAction(const QString& action);
     /// Opens a file; the loading panel is shown while that takes long. Untouched new documents give way.
     Document* openFile(const QString& path);
+    /// The dives of files of other formats, in a new untitled logbook; untouched new documents give way. The
+    /// person hears of each format how it went. Null when there was no dive.
+    Document* openDives(const QHash<const DiveReader*, QStringList>& files);
     /// At launch and when no document is open: the reminder note if wanted, then the most recent document,
     /// or a new logbook where no list of recent documents was ever stored. Always answers true: handled.
     bool applicationOpenUntitledFile();

@@ -18,10 +18,7 @@ const QString atStartKey = u"pense bete"_s;
 
 }  // namespace
 
-ReminderWindow::ReminderWindow(Desk& desk)
-    : _desk(desk),
-      _text(new QPlainTextEdit),
-      _atStart(new QCheckBox) {
+ReminderWindow::ReminderWindow(Desk& desk) : _desk(desk), _text(new QPlainTextEdit), _atStart(new QCheckBox) {
     setObjectName(u"penseBeteWindow"_s);
     resize(420, 320);
     _text->setObjectName(u"penseBeteText"_s);
@@ -38,6 +35,7 @@ ReminderWindow::ReminderWindow(Desk& desk)
 
 void ReminderWindow::retranslate() {
     setWindowTitle(_desk.strings.ui("Reminder note"));
+    _text->setAccessibleName(windowTitle());
     _text->setPlaceholderText(_desk.strings.ui("What you want to be reminded of"));
     _atStart->setText(_desk.strings.ui("Show when the program starts"));
 }

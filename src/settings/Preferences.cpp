@@ -71,6 +71,10 @@ void Preferences::resetPreferences() {
 
 void Preferences::updateUI() {
     show({"default weight", "us units", "stop interval", "low GF", "high GF", "soda lime", "cell life"});
+    showTemperatureUnit();
+}
+
+void Preferences::showTemperatureUnit() {
     const bool isFahrenheit = _desk.defaults.boolean(QStringLiteral("us units"));
     _form.setText(ControlName{"temperatureCaption"},
                   _desk.strings.text(isFahrenheit ? Message<>{"Carnet", "Degree Farenheit"}
@@ -144,7 +148,8 @@ void Preferences::choiceMade(int control) {
     if (control == _form[languagePopUp]) {
         interfacechoice::setLanguage(_desk.defaults, _form.tag(control));
         post(interfacechoice::languageChanged, this);
-        updateUI();
+        // Not updateUI: what was typed and is not saved yet is to stay.
+        showTemperatureUnit();
     } else if (control == _form[appearancePopUp]) {
         interfacechoice::setAppearance(_desk.defaults, _form.tag(control));
         post(interfacechoice::appearanceChanged, this);

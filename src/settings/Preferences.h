@@ -28,6 +28,8 @@ public:
     void resetPreferences();
     /// A few controls, and the unit of the temperature, from the settings.
     void updateUI();
+    /// The caption behind the low temperature, in the language and the unit of now.
+    void showTemperatureUnit();
 
     void updateTableViewNotification(const void* sender);
     void updateColumnsTableViewNotification(const void* sender);

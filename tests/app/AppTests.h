@@ -12,11 +12,14 @@
 #include "support/TestDesk.h"
 
 int runDesktopPromptTest(int argc, char** argv);
+int runDiveFilesTest(int argc, char** argv);
+int runLanguageTest(int argc, char** argv);
 int runLaunchTest(int argc, char** argv);
 int runMenuTest(int argc, char** argv);
 int runSavingTest(int argc, char** argv);
 int runSettingsTest(int argc, char** argv);
 int runSingleInstanceTest(int argc, char** argv);
+int runSpokenNamesTest(int argc, char** argv);
 
 namespace sargan {
 

@@ -6,23 +6,58 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Without the marks of the keys.
+QString plain(QString text) {
+    return text.remove(QRegularExpression(u"&(?!&)"_s));
+}
+
 QMenu* menuNamed(const DocumentWindow* window, const QString& title) {
     for (QMenu* menu : window->findChildren<QMenu*>())
-        if (menu->title() == title) return menu;
+        if (plain(menu->title()) == plain(title)) return menu;
     return nullptr;
 }
 
 QStringList textsOf(const QMenu* menu) {
     QStringList texts;
     for (const QAction* action : menu->actions())
-        if (!action->isSeparator()) texts << action->text();
+        if (!action->isSeparator()) texts << plain(action->text());
     return texts;
+}
+
+/// What is wrong with the keys of a menu's entries and of the menus below it, once it was opened.
+QStringList problemsOf(const QString& where, const QList<QAction*>& entries) {
+    QStringList problems;
+    QSet<QChar> taken;
+    for (QAction* entry : entries) {
+        if (entry->isSeparator()) continue;
+        const QRegularExpressionMatch mark =
+            QRegularExpression(u"^(?:[^&]|&&)*&([A-Za-z0-9])(?:[^&]|&&)*$"_s).match(entry->text());
+        const QString name = where + u" > "_s + entry->text();
+        if (!mark.hasMatch())
+            problems << name + u" has no key"_s;
+        else if (taken.contains(mark.captured(1)[0].toLower()))
+            problems << name + u" has another's key"_s;
+        else
+            taken << mark.captured(1)[0].toLower();
+        if (!entry->menu()) continue;
+        Q_EMIT entry->menu()->aboutToShow();
+        problems += problemsOf(name, entry->menu()->actions());
+    }
+    return problems;
 }
 
 }  // namespace
 
 class MenuTest : public QObject {
     Q_OBJECT
+
+    /// The entries of the Edit menu with their marks, but for the step that they name.
+    static QStringList keysOf(const DocumentWindow* window) {
+        QStringList keys;
+        for (const QAction* entry : window->menuBar()->actions().at(1)->menu()->actions())
+            if (!entry->isSeparator() && entry->objectName() != u"undo"_s) keys << entry->text();
+        return keys;
+    }
 
 private Q_SLOTS:
     void openingAFileTwiceShowsOneWindow() {
@@ -115,6 +150,53 @@ private Q_SLOTS:
         QApplication::sendEvent(desktop.logbook(), &drop);
         QTRY_COMPARE(desktop.count(), 2);
         QCOMPARE(desktop.controller().documents().back()->path(), file);
+    }
+
+    void everyEntryOfEveryMenuHasAKeyOfItsOwn_data() {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("file");
+        for (const auto& [name, file] :
+             {std::pair("logbook", u"plongee-v27.carnet"_s), std::pair("register", u"epaves-v6.epaves"_s)}) {
+            QTest::addRow("%s, English", name) << int(Strings::Language::English) << file;
+            QTest::addRow("%s, French", name) << int(Strings::Language::French) << file;
+        }
+    }
+    void everyEntryOfEveryMenuHasAKeyOfItsOwn() {
+        QFETCH(int, language);
+        QFETCH(QString, file);
+        Desktop desktop;
+        desktop.desk.strings.setLanguage(Strings::Language(language));
+        desktop.suite.launch({desktop.copyOf(file, u"a & b.doc"_s), desktop.copyOf(file, u"a & c.doc"_s)});
+        const DocumentWindow* window = desktop.suite.windows().all().front();
+        const auto problems = [&] { return problemsOf({}, window->menuBar()->actions()).join(u'\n'); };
+        QVERIFY(window->menuBar()->actions().size() >= 7);
+        QCOMPARE(problems(), QString());
+        // Entries whose words have changed since get keys too, and no entry loses its own.
+        const QStringList before = keysOf(window);
+        Desktop::trigger(window, window == desktop.logbook() ? "addDive" : "addWreck");
+        QCOMPARE(problems(), QString());
+        QCOMPARE(keysOf(window), before);
+    }
+
+    void aMenuIsGoneThroughWithTheKeyboard() {
+        Desktop desktop;
+        desktop.suite.launch({});
+        QVERIFY(QTest::qWaitForWindowActive(desktop.logbook()));
+        QAction* calculators = nullptr;
+        for (QAction* title : desktop.logbook()->menuBar()->actions())
+            if (plain(title->text()) == u"Calculators"_s) calculators = title;
+        QVERIFY(calculators);
+        const auto keyOf = [](const QAction* entry) {
+            const QString text = entry->text();
+            return text[text.indexOf(u'&') + 1].toLatin1();
+        };
+        QTest::keyClick(desktop.logbook(), keyOf(calculators), Qt::AltModifier);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), keyOf(calculators->menu()->actions().first()));
+        QTRY_VERIFY(calculators->menu()->actions().first()->menu()->isVisible());
+        QMenu* nitrox = calculators->menu()->actions().first()->menu();
+        QTest::keyClick(nitrox, keyOf(nitrox->actions().last()));
+        QTRY_VERIFY(desktop.suite.delegate().calculators().display(u"Blend Nitrox")->isVisible());
     }
 
     void renumberingIsOfferedByEveryOpenLogbook() {

@@ -3,6 +3,6 @@
 
 int main(int argc, char** argv) {
     return runGuiTests(argc, argv,
-                       {runLaunchTest, runMenuTest, runSavingTest, runSettingsTest, runSingleInstanceTest,
+                       {runLaunchTest, runDiveFilesTest, runLanguageTest, runMenuTest, runSavingTest, runSettingsTest, runSingleInstanceTest, runSpokenNamesTest,
                         runDesktopPromptTest});
 }

@@ -73,6 +73,21 @@ private Q_SLOTS:
         QCOMPARE(helpOf({}), help);
     }
 
+    void everyCommandIsOneLineOfTheOverallHelp() {
+        const QStringList lines = helpOf({u"--help"_s}).split(u'\n');
+        for (const QString& line : lines) QVERIFY2(line.size() <= 110, qPrintable(line));
+        const QString add = u"  add           Adds a record through the blank form and prints its row."_s;
+        QVERIFY(lines.contains(add));
+        QVERIFY(
+            lines.contains(u"  profile-data  Shows the seven lists of a dive's profile as texts with their "
+                           "counts, or replaces them."_s));
+    }
+
+    void valuesWithLettersBeyondAsciiAreToldAsTheyAre() {
+        QVERIFY(helpOf({u"delete"_s, u"--help"_s}).contains(u"\n  --row N… "_s));
+        QVERIFY(helpOf({u"man"_s}).contains(u"\n\\fB\\-\\-row N…\\fR\n"_s));
+    }
+
     void theVersionIsOneLine() {
         QCOMPARE(helpOf({u"--version"_s}), u"sargan " SARGAN_VERSION "\n"_s);
         QCOMPARE(helpOf({u"info"_s, u"--version"_s}), u"sargan " SARGAN_VERSION "\n"_s);

@@ -3,6 +3,7 @@
 
 #include "cli/CliTests.h"
 #include "cli/Workshop.h"
+#include "support/PdfText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -162,6 +163,19 @@ private Q_SLOTS:
         const QByteArray pdf = shop.folder().content(u"list.pdf"_s);
         QVERIFY(pdf.startsWith("%PDF"));
         QVERIFY(pdf.contains("/MediaBox [0 0 842"));
+    }
+
+    void theListIsPrintedInTheOrderOfItsWindow() {
+        const Workshop shop;
+        putThree(shop);
+        const QString columns = u"{\"order\": [\"lieu\", \"temps\", \"noPlongee\"]}"_s;
+        QCOMPARE(shop.run({u"defaults"_s, u"write"_s, u"table Carnet"_s, columns}).status, 0);
+        for (const QString& hidden : {u"column date"_s, u"column site"_s})
+            QCOMPARE(shop.run({u"defaults"_s, u"write"_s, hidden, u"0"_s}).status, 0);
+        QCOMPARE(shop.run({u"print"_s, u"a.carnet"_s, u"-o"_s, u"list.pdf"_s}).status, 0);
+        // Time is the third of the columns that are shown, water the sixth; both are not named.
+        const QString words = pdf::words(shop.folder().content(u"list.pdf"_s));
+        QVERIFY2(words.startsWith(u"Place Duration Time Depth"_s), qPrintable(words));
     }
 
     void theProfileIsDrawn_data() {

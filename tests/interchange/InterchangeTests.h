@@ -16,6 +16,7 @@ int runTextExportTest(int argc, char** argv);
 int runUdcfTest(int argc, char** argv);
 int runUddfExportTest(int argc, char** argv);
 int runUddfImportTest(int argc, char** argv);
+int runUddfValuesTest(int argc, char** argv);
 
 namespace sargan {
 

@@ -2,7 +2,8 @@
 #include "support/TestMain.h"
 
 int main(int argc, char** argv) {
-    return runTests(argc, argv,
-                    {runTextExportTest, runUddfExportTest, runUddfImportTest, runUdcfTest, runHandheldTest,
-                     runHostileXmlTest, runImportTest, runRoundTripTest, runInterchangeCommandTest});
+    return runTests(
+        argc, argv,
+        {runTextExportTest, runUddfExportTest, runUddfImportTest, runUddfValuesTest, runUdcfTest,
+         runHandheldTest, runHostileXmlTest, runImportTest, runRoundTripTest, runInterchangeCommandTest});
 }

@@ -58,6 +58,16 @@ QString askWhatToImport(QWidget* parent, const Document& document, const DiveRea
 
 }  // namespace
 
+void importAndTell(Carnet& carnet, const QStringList& paths, const DiveReader& reader) {
+    Prompt& prompt = carnet.desk().prompt;
+    try {
+        const ImportResult result = importDives(carnet, paths, reader, ImportAlerts::Collected);
+        prompt.inform(result.sentence(carnet.strings()));
+    } catch (const std::exception& error) {
+        prompt.alert(sentenceIn(carnet.strings(), error));
+    }
+}
+
 InterchangeActions::InterchangeActions(LogbookWindow& window) : QObject(&window), _window(window) {
     setObjectName(u"interchange"_s);
     const Strings& strings = window.carnet().strings();
@@ -116,15 +126,8 @@ void InterchangeActions::importWith(const DiveReader& reader) {
 }
 
 void InterchangeActions::importFiles(const QStringList& paths, const DiveReader& reader) {
-    Carnet& carnet = _window.carnet();
-    Prompt& prompt = carnet.desk().prompt;
     _window.storePending();
-    try {
-        const ImportResult result = importDives(carnet, paths, reader, ImportAlerts::Collected);
-        prompt.inform(result.sentence(carnet.strings()));
-    } catch (const std::exception& error) {
-        prompt.alert(sentenceIn(carnet.strings(), error));
-    }
+    importAndTell(_window.carnet(), paths, reader);
 }
 
 void InterchangeActions::exportDives() {

@@ -10,8 +10,12 @@ class QMenu;
 
 namespace sargan {
 
+class Carnet;
 class DiveReader;
 class LogbookWindow;
+
+/// Imports the dives of all files, which are of the reader's format, and tells the person how it went.
+void importAndTell(Carnet& carnet, const QStringList& paths, const DiveReader& reader);
 
 /// Import and export of a logbook's window: the items of its toolbar and of the File menu, and files dropped
 /// on it.

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <cmath>
 
+#include "platform/ui/LegibleColor.h"
 #include "platform/ui/SourceTable.h"
 
 namespace sargan {
@@ -27,12 +28,6 @@ void drawGauge(QPainter* painter, const QRect& cell, double value, const QPalett
     painter->setClipRect(QRectF(track.topLeft(), QSizeF(track.width() * share, track.height())));
     painter->drawRoundedRect(track, 3, 3);
     painter->restore();
-}
-
-/// A colour that was chosen for light backgrounds, light enough to be read on a dark one.
-QColor legibleOn(const QColor& base, const QColor& color) {
-    if (base.lightnessF() > 0.5F || qGray(color.rgb()) > 110) return color;
-    return QColor::fromHslF(std::max(0.0F, color.hslHueF()), color.hslSaturationF() * 0.8F, 0.72F);
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
 #include "platform/ui/ControlBinder.h"
 
 #include <QFocusEvent>
+#include <QGuiApplication>
 
 #include "platform/ui/ChoiceBinders.h"
 #include "platform/ui/GaugeBinder.h"
 #include "platform/ui/ImageBinder.h"
+#include "platform/ui/LegibleColor.h"
 #include "platform/ui/MomentBinders.h"
 #include "platform/ui/TextBinders.h"
 
@@ -62,7 +64,9 @@ bool ControlBinder::eventFilter(QObject*, QEvent* event) {
     return false;
 }
 
-void ControlBinder::showColor(const QColor& color) {
+void ControlBinder::showColor(const QColor& wanted) {
+    const QColor window = QGuiApplication::palette().color(QPalette::Window);
+    const QColor color = wanted.isValid() ? legibleOn(window, wanted) : wanted;
     if (color == _shownColor) return;
     _shownColor = color;
     QPalette palette;
@@ -100,11 +104,11 @@ std::unique_ptr<ControlBinder> binderFor(Form& form, int control, const Desk& de
         case ControlKind::Caption:
             return std::make_unique<CaptionBinder>(form, control, parent);
         case ControlKind::Image:
-            return std::make_unique<ImageBinder>(form, control, desk.strings, choosers, parent);
+            return std::make_unique<ImageBinder>(form, control, desk, choosers, parent);
         case ControlKind::Color:
             return std::make_unique<ColorBinder>(form, control, choosers, parent);
         case ControlKind::Gauge:
-            return std::make_unique<GaugeBinder>(form, control, parent);
+            return std::make_unique<GaugeBinder>(form, control, desk.strings, parent);
     }
     throw std::logic_error("a control of no kind");
 }

@@ -12,8 +12,10 @@ namespace sargan {
 struct FormChoosers {
     /// Invalid when the person gave up.
     std::function<QColor(QWidget* parent, const QColor& old)> color;
-    /// A picture's bytes; null when the person gave up.
+    /// The bytes of a picture's file; null when the person gave up.
     std::function<QByteArray(QWidget* parent)> image;
+    /// The page of a PDF of several pages, from 0; -1 when the person gave up.
+    std::function<int(QWidget* parent, const QByteArray& pdf)> page;
 };
 
 /// Ties one control of a form to one widget. What the form holds is shown as it is and never changed by
@@ -52,7 +54,7 @@ protected:
     void watchLeaving(QWidget* field) { field->installEventFilter(this); }
 
 private:
-    void showColor(const QColor& color);
+    void showColor(const QColor& wanted);
 
     Form& _form;
     int _control;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QMainWindow>
+#include <map>
+#include <memory>
 
 #include "platform/document/Document.h"
 
@@ -34,9 +36,16 @@ public:
     virtual bool canFind() const { return false; }
     virtual void startFind() {}
 
-    /// The windows that belong to this one and are open, so that a window made in its stead opens them again.
+    // --- When another window takes this one's place: for another language ---
+
+    /// Stores what the other window would not find in the document; what openParts tells need not be stored.
+    virtual void storeBeforeReplaced() { storePending(); }
+    /// The windows that belong to this one and are open, and what was typed into them and nowhere else, so that
+    /// the other window opens them again as they are.
     virtual QJsonObject openParts() const { return {}; }
     virtual void reopenParts(const QJsonObject&) {}
+    /// Things with windows of their own, which the other window takes over as they are; by name.
+    std::map<QString, std::shared_ptr<QObject>> companions;
 
     /// Raises the window and gives it the keyboard.
     void bringToFront();
@@ -47,6 +56,8 @@ Q_SIGNALS:
     /// The person wants to close; the window stays until the program has agreed.
     void closeWanted();
     void filesDropped(const QStringList& paths);
+    /// Another window is about to take this one's place.
+    void replaced();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -8,8 +8,8 @@
 
 #include "platform/document/DocumentError.h"
 #include "platform/files/SafeFile.h"
-#include "platform/form/PictureBytes.h"
 #include "platform/ui/PaneBuilder.h"
+#include "platform/ui/PdfPageChooser.h"
 
 namespace sargan {
 
@@ -22,16 +22,18 @@ FormChoosers desktopChoosers(const Desk& desk) {
     choosers.image = [&desk](QWidget* parent) -> QByteArray {
         const QString path = QFileDialog::getOpenFileName(
             parent, desk.strings.ui("Choose a picture…"), {},
-            desk.strings.ui("Pictures") + QStringLiteral(" (*.png *.jpg *.jpeg *.tif *.tiff *.gif *.bmp *.pdf)"));
+            desk.strings.ui("Pictures") +
+                QStringLiteral(" (*.png *.jpg *.jpeg *.tif *.tiff *.gif *.bmp *.pdf)"));
         if (path.isEmpty()) return {};
         try {
-            const QByteArray picture = pictureBytesOf(readFile(path));
-            if (picture.isNull()) desk.prompt.alert(desk.strings.ui("This file is no picture."));
-            return picture;
+            return readFile(path);
         } catch (const std::exception& error) {
             desk.prompt.alert(sentenceOf(error));
             return {};
         }
+    };
+    choosers.page = [&desk](QWidget* parent, const QByteArray& pdf) {
+        return PdfPageChooser::choose(pdf, desk.strings, parent);
     };
     return choosers;
 }
@@ -102,7 +104,10 @@ void FormView::takeFocus() {
         return focusOn(wanted);
     for (const int control : std::as_const(_order)) {
         ControlBinder& binder = *_binders[std::size_t(control)];
-        if (binder.widget()->focusPolicy() == Qt::NoFocus || !isOnCurrentPane(binder.widget())) continue;
+        const QWidget* widget = binder.widget();
+        if (widget->focusProxy()) widget = widget->focusProxy();
+        // A result can be clicked to be copied, but there is nothing to type into it.
+        if (!(widget->focusPolicy() & Qt::TabFocus) || !isOnCurrentPane(widget)) continue;
         return binder.takeFocus();
     }
 }
@@ -113,12 +118,24 @@ void FormView::finishEditing() {
 }
 
 void FormView::showEvent(QShowEvent* event) {
-    if (_stale) {
-        _stale = false;
-        for (const auto& binder : _binders)
-            if (binder) binder->refresh();
-    }
+    if (_stale) refresh();
     QWidget::showEvent(event);
+}
+
+void FormView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) return;
+    // Colours are shown so that they can be read on the new background.
+    if (isVisible())
+        refresh();
+    else
+        _stale = true;
+}
+
+void FormView::refresh() {
+    _stale = false;
+    for (const auto& binder : _binders)
+        if (binder) binder->refresh();
 }
 
 void FormView::controlChanged(int control) {

@@ -36,9 +36,11 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void build(const WindowLayout& layout);
+    void refresh();
     ControlBinder* bind(const char* control, QWidget* parent);
     void controlChanged(int control);
     void focusOn(int control);

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "platform/ui/ControlNames.h"
 #include "platform/ui/PaneScroller.h"
 
 namespace sargan {
@@ -44,17 +45,18 @@ QWidget* PaneBuilder::build(const LayoutPane& pane) {
             filled = false;
         }
         _hasArea = false;
-        QWidget* box = section(part);
+        QWidget* box = section(pane, part);
         column->addWidget(box, _hasArea ? 1 : 0);
         filled = filled || _hasArea;
     }
     if (column && !filled) column->addStretch(1);
     auto* scroll = new PaneScroller(content, columns);
     scroll->setObjectName(QLatin1String(pane.id));
+    scroll->setAccessibleName(words(pane.label));
     return scroll;
 }
 
-QWidget* PaneBuilder::section(const LayoutSection& section) {
+QWidget* PaneBuilder::section(const LayoutPane& pane, const LayoutSection& section) {
     QWidget* box = section.title.key ? new QGroupBox(words(section.title)) : new QWidget;
     auto* grid = new QGridLayout(box);
     grid->setHorizontalSpacing(6);
@@ -65,7 +67,9 @@ QWidget* PaneBuilder::section(const LayoutSection& section) {
     std::vector<bool> grows(std::size_t(cells), false);
     int at = 0;
     for (const LayoutRow& line : section.rows) {
-        row(box, grid, at++, line, int(cells));
+        QStringList names;
+        for (qsizetype i = 0; i < line.items.size(); ++i) names << spokenName(pane, section, at, i, _strings);
+        row(box, grid, at++, line, int(cells), names);
         for (qsizetype i = 0; i < line.items.size(); ++i)
             if (growsSideways(line.items[i])) grows[std::size_t(i)] = true;
     }
@@ -78,7 +82,8 @@ QWidget* PaneBuilder::section(const LayoutSection& section) {
     return box;
 }
 
-void PaneBuilder::row(QWidget* parent, QGridLayout* grid, int at, const LayoutRow& row, int cells) {
+void PaneBuilder::row(QWidget* parent, QGridLayout* grid, int at, const LayoutRow& row, int cells,
+                      const QStringList& names) {
     for (int i = 0; i < int(row.items.size()); ++i) {
         const LayoutItem& item = row.items[i];
         const bool isLast = i + 1 == int(row.items.size());
@@ -90,13 +95,13 @@ void PaneBuilder::row(QWidget* parent, QGridLayout* grid, int at, const LayoutRo
             if (i > 0) label->setContentsMargins(8, 0, 0, 0);
             grid->addWidget(label, at, 2 * i);
         }
-        grid->addWidget(cell(parent, item, label), at, 2 * i + 1, 1, span);
+        grid->addWidget(cell(parent, item, label, names[i]), at, 2 * i + 1, 1, span);
         if (label && _hasArea) grid->setAlignment(label, Qt::AlignTop);
     }
 }
 
-QWidget* PaneBuilder::cell(QWidget* parent, const LayoutItem& item, QWidget* label) {
-    if (item.control) return controlCell(parent, item, label);
+QWidget* PaneBuilder::cell(QWidget* parent, const LayoutItem& item, QWidget* label, const QString& name) {
+    if (item.control) return controlCell(parent, item, label, name);
     if (item.action) return button(parent, item.action, item.label);
     QLabel* heading = plainLabel(words(item.label), parent);
     QPalette faint = heading->palette();
@@ -105,7 +110,8 @@ QWidget* PaneBuilder::cell(QWidget* parent, const LayoutItem& item, QWidget* lab
     return heading;
 }
 
-QWidget* PaneBuilder::controlCell(QWidget* parent, const LayoutItem& item, QWidget* label) {
+QWidget* PaneBuilder::controlCell(QWidget* parent, const LayoutItem& item, QWidget* label,
+                                  const QString& name) {
     auto* holder = new QWidget(parent);
     auto* line = new QHBoxLayout(holder);
     line->setContentsMargins(0, 0, 0, 0);
@@ -115,7 +121,7 @@ QWidget* PaneBuilder::controlCell(QWidget* parent, const LayoutItem& item, QWidg
     if (item.width > 0) binder->setCharacters(item.width);
     const bool stretches = item.width == 0 && binder->grows();
     line->addWidget(widget, stretches ? 1 : 0);
-    widget->setAccessibleName(words(item.label));
+    speakAs(widget, name);
     if (auto* titled = qobject_cast<QLabel*>(label)) titled->setBuddy(widget);
     if (label) binder->addCompanion(label);
     if (item.unit.key) {

@@ -25,10 +25,11 @@ public:
     QWidget* build(const LayoutPane& pane);
 
 private:
-    QWidget* section(const LayoutSection& section);
-    void row(QWidget* parent, QGridLayout* grid, int at, const LayoutRow& row, int cells);
-    QWidget* cell(QWidget* parent, const LayoutItem& item, QWidget* label);
-    QWidget* controlCell(QWidget* parent, const LayoutItem& item, QWidget* label);
+    QWidget* section(const LayoutPane& pane, const LayoutSection& section);
+    void row(QWidget* parent, QGridLayout* grid, int at, const LayoutRow& row, int cells,
+             const QStringList& names);
+    QWidget* cell(QWidget* parent, const LayoutItem& item, QWidget* label, const QString& name);
+    QWidget* controlCell(QWidget* parent, const LayoutItem& item, QWidget* label, const QString& name);
     QWidget* button(QWidget* parent, const char* name, const Message<>& label);
     QString words(const Message<>& message) const { return message.key ? _strings.text(message) : QString(); }
 

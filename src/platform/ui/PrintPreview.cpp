@@ -1,5 +1,6 @@
 #include "platform/ui/PrintPreview.h"
 
+#include <QGraphicsView>
 #include <QLabel>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
@@ -23,6 +24,7 @@ PrintPreview::PrintPreview(std::unique_ptr<Printable> printable, PrintActions& a
     setWindowTitle(desk.strings.ui("Print Preview") + u" – "_s + _printable->title());
     _printer->setPageLayout(pageLayoutOf(*_printable, paperOf(desk.defaults)));
     _view = new QPrintPreviewWidget(_printer.get());
+    _view->findChild<QGraphicsView*>()->setAccessibleName(windowTitle());
     connect(_view, &QPrintPreviewWidget::paintRequested, this,
             [this](QPrinter* printer) { paint(*printer); });
     connect(_view, &QPrintPreviewWidget::previewChanged, this, &PrintPreview::showPlace);
@@ -63,6 +65,10 @@ void PrintPreview::fillToolbar(QToolBar& bar, PrintActions& actions) {
     addTool(bar, "zoomOut", u"−"_s, [this] { _view->zoomOut(); })->setToolTip(words.ui("Smaller"));
     addTool(bar, "zoomIn", u"+"_s, [this] { _view->zoomIn(); })->setToolTip(words.ui("Larger"));
     addTool(bar, "fitPage", words.ui("Whole page"), [this] { _view->fitInView(); });
+    // Signs are not read aloud.
+    for (QAction* tool : bar.actions())
+        if (QWidget* button = bar.widgetForAction(tool); button && button != _place)
+            button->setAccessibleName(tool->toolTip());
 }
 
 QAction* PrintPreview::addTool(QToolBar& bar, const char* name, const QString& text,

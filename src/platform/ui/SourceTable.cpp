@@ -2,18 +2,9 @@
 
 #include <QFont>
 
-#include "platform/form/SystemColors.h"
+#include "platform/document/CellInk.h"
 
 namespace sargan {
-
-namespace {
-
-/// Whether white text is easier to read on this colour than black text.
-bool isDark(const QColor& color) {
-    return 0.299 * color.redF() + 0.587 * color.greenF() + 0.114 * color.blueF() < 0.5;
-}
-
-}  // namespace
 
 SourceTable::SourceTable(TableSource& source, const Strings& strings, QObject* parent)
     : QAbstractTableModel(parent),
@@ -46,14 +37,6 @@ const TableCell& SourceTable::cell(const QModelIndex& index) const {
     return _last;
 }
 
-QVariant SourceTable::textColor(const TableCell& cell) const {
-    // Black is the usual colour of texts: it follows the palette, and a background that hides it.
-    const bool isUsual = !cell.color.isValid() || cell.color == systemcolor::black;
-    if (!isUsual) return cell.color;
-    if (!cell.background.isValid() || cell.background.alphaF() < 0.5F) return {};
-    return QColor(isDark(cell.background) ? systemcolor::white : systemcolor::black);
-}
-
 QVariant SourceTable::data(const QModelIndex& index, int role) const {
     // Rows may have gone from the source that `followRows` has not told of yet.
     if (!index.isValid() || index.row() >= _source.tableRows()) return {};
@@ -63,7 +46,7 @@ QVariant SourceTable::data(const QModelIndex& index, int role) const {
         case Qt::TextAlignmentRole:
             return int(_columns[index.column()].alignment);
         case Qt::ForegroundRole:
-            return textColor(cell(index));
+            return inkOf(cell(index)).isValid() ? inkOf(cell(index)) : QVariant();
         case Qt::BackgroundRole:
             return cell(index).background.isValid() ? cell(index).background : QVariant();
         case Qt::FontRole: {

@@ -34,7 +34,6 @@ public:
 
 private:
     const TableCell& cell(const QModelIndex& index) const;
-    QVariant textColor(const TableCell& cell) const;
 
     TableSource& _source;
     const Strings& _strings;

@@ -2,9 +2,11 @@
 
 #include <QHeaderView>
 #include <QJsonArray>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include "platform/document/ColumnOrder.h"
 #include "platform/ui/CellDelegate.h"
 #include "platform/ui/DocumentWindow.h"
 
@@ -24,10 +26,10 @@ SourceTableView::SourceTableView(Document& document, const QString& name)
     header->setSectionsClickable(true);
     header->setSectionsMovable(true);
     header->setSortIndicatorShown(true);
-    const QJsonObject place = document.desk().defaults.value(settingsKey()).toObject();
-    const QJsonObject widths = place[u"widths"_s].toObject();
+    const UserDefaults& defaults = document.desk().defaults;
+    const QJsonObject widths = defaults.value(columnsKey(_name)).toObject()[u"widths"_s].toObject();
     for (auto at = widths.begin(); at != widths.end(); ++at) _widths.insert(at.key(), at.value().toInt());
-    for (const QJsonValue& identifier : place[u"order"_s].toArray()) _order << identifier.toString();
+    _order = rememberedColumnOrder(defaults, _name);
     placeColumns();
     showSortMark();
     connect(header, &QHeaderView::sectionClicked, this, &SourceTableView::clickColumn);
@@ -62,6 +64,22 @@ void SourceTableView::showRows(const Selection& rows) {
     const int column = std::max(0, horizontalHeader()->logicalIndex(0));
     selectionModel()->setCurrentIndex(_list->index(int(rows.first()), column), QItemSelectionModel::NoUpdate);
     scrollToRow(rows.first());
+}
+
+QModelIndex SourceTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers keys) {
+    const bool isToEdge = action == MoveHome || action == MoveEnd;
+    if (!isToEdge || _list->rowCount() == 0) return QTableView::moveCursor(action, keys);
+    const int column =
+        currentIndex().isValid() ? currentIndex().column() : horizontalHeader()->logicalIndex(0);
+    return _list->index(action == MoveHome ? 0 : _list->rowCount() - 1, std::max(0, column));
+}
+
+void SourceTableView::keyPressEvent(QKeyEvent* event) {
+    QTableView::keyPressEvent(event);
+    // A row has the keyboard from the beginning without being selected: the key that leads there selects it.
+    const bool isToEdge = event->key() == Qt::Key_Home || event->key() == Qt::Key_End;
+    if (isToEdge && currentIndex().isValid() && selectionModel()->selection().isEmpty())
+        selectRow(currentIndex().row());
 }
 
 void SourceTableView::scrollToRow(qsizetype row) {
@@ -134,19 +152,14 @@ void SourceTableView::noteColumns() {
 }
 
 void SourceTableView::placeColumns() {
-    QStringList order;
-    for (const QString& identifier : std::as_const(_order))
-        if (_list->columnNamed(identifier) >= 0 && !order.contains(identifier)) order << identifier;
-    // A column that comes back takes its designed place as far as the others allow.
     for (int column = 0; column < _list->columnCount(); ++column) {
-        const QString& identifier = _list->columns()[column].identifier;
-        if (!order.contains(identifier)) order.insert(std::min<qsizetype>(column, order.size()), identifier);
-        const auto known = _widths.constFind(identifier);
+        const auto known = _widths.constFind(_list->columns()[column].identifier);
         setColumnWidth(column, known != _widths.cend() ? std::clamp(*known, 20, 2000) : usualWidth(column));
     }
     QHeaderView* header = horizontalHeader();
-    for (int place = 0; place < order.size(); ++place)
-        header->moveSection(header->visualIndex(_list->columnNamed(order[place])), place);
+    const QList<int> columns = placesInOrder(_list->columns(), _order);
+    for (int place = 0; place < int(columns.size()); ++place)
+        header->moveSection(header->visualIndex(columns[place]), place);
 }
 
 void SourceTableView::rememberColumns() {
@@ -154,7 +167,8 @@ void SourceTableView::rememberColumns() {
     QJsonObject widths;
     for (auto at = _widths.cbegin(); at != _widths.cend(); ++at) widths.insert(at.key(), at.value());
     _document.desk().defaults.store(
-        settingsKey(), QJsonObject{{u"widths"_s, widths}, {u"order"_s, QJsonArray::fromStringList(_order)}});
+        columnsKey(_name),
+        QJsonObject{{u"widths"_s, widths}, {u"order"_s, QJsonArray::fromStringList(_order)}});
 }
 
 QString SourceTableView::selectedText() const {
@@ -163,8 +177,8 @@ QString SourceTableView::selectedText() const {
     std::sort(rows.begin(), rows.end());
     for (const QModelIndex& row : std::as_const(rows)) {
         QStringList cells;
-        for (int column = 0; column < model()->columnCount(); ++column)
-            cells << row.siblingAtColumn(column).data().toString();
+        for (int place = 0; place < model()->columnCount(); ++place)
+            cells << row.siblingAtColumn(horizontalHeader()->logicalIndex(place)).data().toString();
         lines << cells.join(u'\t');
     }
     return lines.join(u'\n');

@@ -34,12 +34,17 @@ public:
     void rememberColumns();
     /// The columns' identifiers as they stand from left to right.
     QStringList columnOrder() const;
-    /// The selected rows as lines of tab-separated texts.
+    /// The selected rows as lines of tab-separated texts, from left to right.
     QString selectedText() const;
 
 Q_SIGNALS:
     /// The person has selected other rows.
     void rowsChosen(const Selection& rows);
+
+protected:
+    /// Rows are what is selected, so Home and End go to the first and the last one.
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers keys) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void follow();
@@ -48,7 +53,6 @@ private:
     void noteColumns();
     void placeColumns();
     int usualWidth(int column) const;
-    QString settingsKey() const { return QStringLiteral("table ") + _name; }
 
     Document& _document;
     TableSource& _source;

@@ -12,6 +12,7 @@
 
 #include "platform/ui/FittingToolBar.h"
 #include "platform/ui/Icons.h"
+#include "platform/ui/Mnemonics.h"
 #include "profile/ui/ProfilView.h"
 
 namespace sargan {
@@ -108,6 +109,7 @@ void GraphProfileWindow::addMarkerMenu() {
         for (QAction* action : menu->actions())
             action->setChecked(_desk.defaults.boolean(action->objectName()));
     });
+    keepMnemonics(menu);
     button->setMenu(menu);
     _bar->addWidget(button);
 }

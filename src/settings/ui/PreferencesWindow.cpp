@@ -10,6 +10,7 @@
 
 #include "platform/ui/FormView.h"
 #include "platform/ui/Icons.h"
+#include "platform/ui/Mnemonics.h"
 #include "platform/ui/PaneScroller.h"
 
 namespace sargan {
@@ -37,12 +38,15 @@ void PreferencesWindow::build() {
     auto* column = new QVBoxLayout(content);
     _view = new FormView(_preferences.form(), preferencesLayout(), desk(), content);
     column->addWidget(_view, 1);
-    column->addWidget(buttonRow());
+    QWidget* row = buttonRow();
+    column->addWidget(row);
+    const QSet<QChar> taken = allotMnemonics(row);
+    for (PaneScroller* pane : _view->findChildren<PaneScroller*>()) allotMnemonics(pane, taken);
     delete takeCentralWidget();
     setCentralWidget(content);
     if (isVisible()) content->show();
     _view->showPane(_pane);
-    _preferences.updateUI();
+    _preferences.showTemperatureUnit();
     showEdited();
     fitLater();
 }

@@ -129,7 +129,7 @@ private Q_SLOTS:
         QTest::mouseClick(window.widget("inkWell"), Qt::LeftButton);
         QCOMPARE(window.form.state(window.at("inkWell")).color, QColor(1, 2, 3));
         QTest::mouseClick(window.widget("photoView"), Qt::LeftButton);
-        QCOMPARE(window.form.state(window.at("photoView")).image, QByteArray("bytes"));
+        QCOMPARE(window.form.state(window.at("photoView")).image, QByteArray("\x89PNG bytes"));
         window.widget("photoView")->setFocus();
         QTest::keyClick(window.widget("photoView"), Qt::Key_Delete);
         QVERIFY(window.form.state(window.at("photoView")).image.isEmpty());
@@ -146,8 +146,11 @@ private Q_SLOTS:
         window.form.setImage(window.at("photoView"), png);
         auto* well = window.widget<QToolButton>("photoView");
         QVERIFY(!well->icon().isNull());
+        const qint64 shown = well->icon().cacheKey();
+        // Without one the well says what it is for.
         window.form.setImage(window.at("photoView"), QByteArray());
-        QVERIFY(well->icon().isNull());
+        QVERIFY(!well->icon().isNull() && well->icon().cacheKey() != shown);
+        QCOMPARE(well->text(), u"Choose a picture…"_s);
     }
 
     void aHiddenViewCatchesUpWhenItIsShown() {

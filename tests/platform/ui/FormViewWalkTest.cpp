@@ -84,6 +84,31 @@ private Q_SLOTS:
         QCOMPARE(widget->palette().color(QPalette::Text), usual);
     }
 
+    void aColourCanBeReadOnADarkWindow_data() { everyControl(&hasTextColour); }
+    void aColourCanBeReadOnADarkWindow() {
+        QFETCH(int, control);
+        const QPalette light = QApplication::palette();
+        const auto restore = qScopeGuard([&light] { QApplication::setPalette(light); });
+        SampleWindow window;
+        // Outside of an event loop nobody tells the windows.
+        const auto become = [&window](const QPalette& palette) {
+            QApplication::setPalette(palette);
+            QEvent change(QEvent::PaletteChange);
+            QCoreApplication::sendEvent(window.view.get(), &change);
+        };
+        const QWidget* widget = window.widget(window.form.spec(control).name);
+        const auto shown = [widget] { return widget->palette().color(QPalette::Text); };
+        window.form.setColor(control, Qt::black);
+        QCOMPARE(shown(), QColor(Qt::black));
+        become(QColor(48, 50, 54));
+        QVERIFY(shown().lightnessF() > 0.6F);
+        // A window that is out of view follows when it comes back.
+        window.view->hide();
+        become(light);
+        window.view->show();
+        QCOMPARE(shown(), QColor(Qt::black));
+    }
+
     void labelAndUnitGoWithTheirControl() {
         SampleWindow window;
         QWidget* name = window.widget("nameField");

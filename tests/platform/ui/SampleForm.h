@@ -49,7 +49,7 @@ struct SampleWindow {
                   {{"firstPane", {"Test", "First", "First"}, nullptr, {section}}}};
         view = std::make_unique<FormView>(form, layout, desk.desk);
         view->choosers.color = [](QWidget*, const QColor&) { return QColor(1, 2, 3); };
-        view->choosers.image = [](QWidget*) { return QByteArray("bytes"); };
+        view->choosers.image = [](QWidget*) { return QByteArray("\x89PNG bytes"); };
         view->resize(700, 900);
         view->show();
         view->activateWindow();

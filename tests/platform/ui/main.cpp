@@ -2,7 +2,7 @@
 #include "support/GuiMain.h"
 
 int main(int argc, char** argv) {
-    return runGuiTests(
-        argc, argv,
-        {runFormViewTest, runFormViewWalkTest, runMomentFieldTest, runDocumentWindowTest, runSourceTableTest});
+    return runGuiTests(argc, argv,
+                       {runFormViewTest, runFormViewWalkTest, runMomentFieldTest, runPdfPageChooserTest,
+                        runDocumentWindowTest, runSourceTableTest});
 }

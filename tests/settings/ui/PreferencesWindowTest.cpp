@@ -63,6 +63,31 @@ private Q_SLOTS:
         QVERIFY(sizes.at(1).height() > sizes.at(4).height());
     }
 
+    void everyControlInViewIsReachedByALetterOfItsOwn_data() {
+        QTest::addColumn<int>("language");
+        QTest::newRow("English") << int(Strings::Language::English);
+        QTest::newRow("French") << int(Strings::Language::French);
+    }
+    void everyControlInViewIsReachedByALetterOfItsOwn() {
+        QFETCH(int, language);
+        SettingsBench bench;
+        bench.strings.setLanguage(Strings::Language(language));
+        PreferencesWindow window(bench.desk);
+        const auto letterOf = [](const QString& text) {
+            const qsizetype at = text.indexOf(u'&');
+            return at < 0 ? QString() : text.mid(at + 1, 1).toLower();
+        };
+        const QStringList foot{letterOf(find<QPushButton>(window, "savePrefs")->text()),
+                               letterOf(find<QPushButton>(window, "resetPreferences")->text())};
+        for (const char* id : {"general", "carnet", "affichage", "profil", "deco", "rebreather"}) {
+            QStringList letters = foot;
+            for (const QLabel* label : find<QScrollArea>(window, id)->findChildren<QLabel*>())
+                if (label->buddy()) letters << letterOf(label->text());
+            QVERIFY2(letters.size() > foot.size() && !letters.contains(QString()), id);
+            QCOMPARE(QSet<QString>(letters.begin(), letters.end()).size(), letters.size());
+        }
+    }
+
     void operationsSwitchPanesToo() {
         const Opened opened;
         opened.window->preferences().form().press(u"goView_4"_s);
