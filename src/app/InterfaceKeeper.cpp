@@ -26,9 +26,9 @@ QPalette lightPalette() {
 }
 
 QPalette darkPalette() {
-    QPalette palette(QColor(48, 50, 54));
-    palette.setColor(QPalette::Base, QColor(32, 34, 37));
-    palette.setColor(QPalette::AlternateBase, QColor(39, 41, 45));
+    QPalette palette(QColor(62, 64, 69));
+    palette.setColor(QPalette::Base, QColor(27, 28, 31));
+    palette.setColor(QPalette::AlternateBase, QColor(35, 37, 41));
     palette.setColor(QPalette::Highlight, QColor(47, 125, 188));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, QColor(110, 180, 240));

@@ -11,8 +11,6 @@ namespace sargan {
 
 namespace {
 
-constexpr int textMargin = 7;
-
 void drawGauge(QPainter* painter, const QRect& cell, double value, const QPalette& palette) {
     const QRectF track = QRectF(cell).adjusted(3, 3, -3, -3);
     const double share = std::isnan(value) ? 0 : std::clamp(value, 0.0, 1.0);

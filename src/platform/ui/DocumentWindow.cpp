@@ -82,7 +82,7 @@ void DocumentWindow::restorePlace() {
     const QRect wanted(place[u"x"_s].toInt(), place[u"y"_s].toInt(), place[u"width"_s].toInt(),
                        place[u"height"_s].toInt());
     const QRect room = screen()->availableGeometry();
-    const QSize size = place.isEmpty() ? QSize(1060, 640) : wanted.size();
+    const QSize size = place.isEmpty() ? QSize(1200, 680) : wanted.size();
     resize(size.boundedTo(room.size() - QSize(20, 40)).expandedTo(QSize(320, 240)));
     // A place on a screen that is gone would hide the window.
     if (!place.isEmpty() && room.contains(wanted.topLeft() + QPoint(40, 20))) move(wanted.topLeft());

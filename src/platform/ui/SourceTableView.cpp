@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QJsonArray>
 #include <QKeyEvent>
+#include <QProxyStyle>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -14,6 +15,19 @@ namespace sargan {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Titles begin and end where the words of their cells do.
+class HeaderStyle : public QProxyStyle {
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        return metric == PM_HeaderMargin ? CellDelegate::textMargin
+                                         : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
+}  // namespace
+
 SourceTableView::SourceTableView(Document& document, const QString& name)
     : _document(document),
       _source(*document.table()),
@@ -23,6 +37,9 @@ SourceTableView::SourceTableView(Document& document, const QString& name)
     setItemDelegate(new CellDelegate(this));
     setModel(_list);
     QHeaderView* header = horizontalHeader();
+    auto* style = new HeaderStyle;
+    style->setParent(header);
+    header->setStyle(style);
     header->setSectionsClickable(true);
     header->setSectionsMovable(true);
     header->setSortIndicatorShown(true);
