@@ -11,7 +11,7 @@ import typedstream as ts
 
 PLACES = ["Marseille", "Le Lavandou", "Trébeurden", "L’Estartit", "Hurghada", "Belle-Île"]
 SITES = ["Tombant sud", "Roche ronde", "La Grotte", "Sec du large", "Pointe nord", "Le Plateau", "L’Arche"]
-COUNTRIES = {"L’Estartit": ("Espagne", "ES"), "Hurghada": ("Égypte", "EG")}
+COUNTRIES = {"L’Estartit": ("Espagne", "ESP"), "Hurghada": ("Égypte", "EGY")}
 BUDDIES = ["Karim", "Inès", "Solène, Yann", "Nadège", "Bastien, Inès"]
 
 TENTHS = [n / 10 for n in range(3001)]
@@ -73,7 +73,7 @@ def bulk_dives(count: int, samples: int) -> Iterator[ts.Object]:
         day += DAY * (number % 3 == 0)
         deepest, start, end = rng.randint(80, 450), rng.randint(190, 220), rng.randint(50, 80)
         lieu = rng.choice(PLACES)
-        pays, code = COUNTRIES.get(lieu, ("France", "FR"))
+        pays, code = COUNTRIES.get(lieu, ("France", "FRA"))
         texts = {"lieu": lieu, "site": rng.choice(SITES), "pays": pays, "countryCode": code}
         texts |= {"partenaires": rng.choice(BUDDIES), "surface": "--:--", "notes": f"Plongée n° {number}."}
         values: dict[str, Any] = {"profondeur": deepest / 10}
