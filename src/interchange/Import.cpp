@@ -4,7 +4,6 @@
 
 #include "interchange/Formats.h"
 #include "interchange/ImportError.h"
-#include "interchange/NumberList.h"
 #include "logbook/DiveBatch.h"
 #include "platform/files/SafeFile.h"
 
@@ -17,25 +16,6 @@ constexpr qint64 largestImport = qint64{1} << 30;
 
 /// More than a diver dives; what asks for more is made to use up the memory.
 constexpr qsizetype mostDives = 200'000;
-
-/// Keeps the dive form's alerts together, each with the dives that it was about.
-class AlertCollector : public Prompt {
-public:
-    void beep() override {}
-    void alert(const QString& text) override {
-        for (ImportResult::Alert& known : alerts)
-            if (known.text == text) {
-                if (known.dives.last() != number) known.dives << number;
-                return;
-            }
-        alerts << ImportResult::Alert{text, {number}};
-    }
-    int ask(const QString&, const QStringList& buttons) override { return int(buttons.size()) - 1; }
-    std::unique_ptr<Progress> startProgress(const QString&) override { return nullptr; }
-
-    QList<ImportResult::Alert> alerts;
-    int number = 0;  ///< of the dive in the form
-};
 
 class Import {
 public:
@@ -58,7 +38,7 @@ public:
         for (qsizetype i = 0; i < dives; ++i) {
             if (_progress && !_progress->advance(share + width * double(i) / double(dives))) return false;
             _batch->add([&](DiveForm& form) {
-                _collector.number = _batch->number();
+                _collector.setNumber(_batch->number());
                 source->fill(form, i);
             });
         }
@@ -70,7 +50,7 @@ public:
         _result.files = files;
         _result.isCancelled = !isComplete;
         if (!isComplete || !_batch) return _result;
-        _result.alerts = _collector.alerts;
+        _result.alerts = _collector.list();
         _result.dives = _batch->count();
         _batch->commit();
         return _result;
@@ -84,7 +64,7 @@ private:
 
     Carnet& _carnet;
     const DiveReader& _reader;
-    AlertCollector _collector;
+    DiveAlerts _collector;
     Prompt& _prompt;
     std::unique_ptr<Progress> _progress;
     std::optional<DiveBatch> _batch;  ///< made with the first dive
@@ -141,10 +121,7 @@ QString ImportResult::sentence(const Strings& strings) const {
                                                    "The file seems to be of the format %@."},
                                   strings.text(otherFormat));
     QString text = sentences.join(u' ');
-    for (const Alert& alert : alerts)
-        text += QStringLiteral("\n\n") + alert.text + u' ' +
-                strings.text(Message<QString>{"Interface", "Dives concerned: %@.", "Dives concerned: %@."},
-                             numberList(alert.dives));
+    for (const DiveAlert& alert : alerts) text += QStringLiteral("\n\n") + told(alert, strings);
     return text;
 }
 

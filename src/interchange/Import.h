@@ -2,6 +2,7 @@
 
 #include "interchange/DiveReader.h"
 #include "logbook/Carnet.h"
+#include "logbook/DiveAlerts.h"
 
 namespace sargan {
 
@@ -9,17 +10,11 @@ namespace sargan {
 enum class ImportAlerts { AsTheyHappen, Collected };
 
 struct ImportResult {
-    /// One alert of the dive form and the numbers of the dives that it was about.
-    struct Alert {
-        QString text;
-        QList<int> dives;
-    };
-
     QStringList files;         ///< without their folders
     qsizetype dives = 0;       ///< added to the logbook
     qsizetype passedOver = 0;  ///< in groups of the files that the format does not read
     bool isCancelled = false;  ///< then nothing was added
-    QList<Alert> alerts;       ///< when they were collected
+    QList<DiveAlert> alerts;   ///< when they were collected
     Message<> otherFormat{nullptr, nullptr, nullptr};  ///< what a file without dives looks like
 
     /// How it went, in the current language.

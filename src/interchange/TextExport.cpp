@@ -1,6 +1,6 @@
 #include "interchange/TextExport.h"
 
-#include "interchange/NumberList.h"
+#include "logbook/NumberList.h"
 #include "interchange/XmlWriter.h"
 #include "platform/text/MacRoman.h"
 

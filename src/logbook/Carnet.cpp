@@ -1,5 +1,7 @@
 #include "logbook/Carnet.h"
 
+#include "logbook/DiveAlerts.h"
+
 namespace sargan {
 
 namespace {
@@ -124,13 +126,19 @@ void Carnet::renumDives() {
     const qint64 start = _panel.integer(panelcontrol::renumNumber);
     Records<Plongee> dives;
     dives.reserve(count());
+    DiveAlerts alerts;
+    Desk quiet = deskWithPrompt(desk(), alerts);
+    DiveForm builder(quiet);
     for (const auto& dive : records()) {
-        _diveForm.editFields(dive);
-        form().setInteger(divecontrol::plongeeNo, int(start + dives.size()));
-        dives.append(std::make_shared<const Plongee>(_diveForm.addDiveToList()));
+        const int number = int(start + dives.size());
+        alerts.setNumber(number);
+        builder.editFields(dive);
+        builder.form().setInteger(divecontrol::plongeeNo, number);
+        dives.append(std::make_shared<const Plongee>(builder.addDiveToList()));
     }
     const qsizetype last = dives.size() - 1;
     perform(QStringLiteral("Renumber dives"), std::move(dives), {last});
+    for (const DiveAlert& alert : alerts.list()) desk().prompt.alert(told(alert, strings()));
 }
 
 void Carnet::prevDive() {

@@ -56,7 +56,8 @@ public:
     void storeTyped();
     /// Removes all selected dives, after a question. Answers whether it was done.
     bool deleteDive();
-    /// Numbers the dives from the panel's number on, in list order.
+    /// Numbers the dives from the panel's number on, in list order. Each is built anew by a form, whose alerts
+    /// come once, with the dives concerned.
     void renumDives();
     /// Stores the form, then moves one row up or down. A row that the table does not have selects nothing
     /// new.

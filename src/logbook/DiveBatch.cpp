@@ -1,14 +1,8 @@
 #include "logbook/DiveBatch.h"
 
+#include "logbook/DiveAlerts.h"
+
 namespace sargan {
-
-namespace {
-
-Desk deskWithPrompt(const Desk& desk, Prompt& prompt) {
-    return {prompt, desk.defaults, desk.strings, desk.notifications, desk.pickLists, desk.clock, desk.log};
-}
-
-}  // namespace
 
 DiveBatch::DiveBatch(Carnet& carnet, Prompt& prompt)
     : _carnet(carnet),

@@ -3,7 +3,7 @@
 
 #include "interchange/ImportError.h"
 #include "interchange/InterchangeTests.h"
-#include "interchange/NumberList.h"
+#include "logbook/NumberList.h"
 #include "logbook/DiveBatch.h"
 #include "platform/document/Sentences.h"
 #include "platform/files/Folder.h"

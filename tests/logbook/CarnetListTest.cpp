@@ -212,6 +212,20 @@ private Q_SLOTS:
         QCOMPARE(_book->numbers(), QList<int>({1}));
     }
 
+    void renumberingTellsAnAlertOnceForAllDives() {
+        _book->add({{u"departField"_s, u"200"_s}, {u"finField"_s, u"50"_s}});
+        for (int i = 0; i < 2; ++i) {
+            _book->desk.prompt.expectAlert(_book->desk.strings.text({"Carnet", "Pressure in out"}));
+            _book->add({{u"departField"_s, u"50"_s}, {u"finField"_s, u"200"_s}});
+        }
+        carnet().panel().setText(panelcontrol::renumNumber, u"11"_s);
+        _book->desk.prompt.expectAlert(_book->desk.strings.text({"Carnet", "Pressure in out"}) +
+                                       u" Dives concerned: 12, 13."_s);
+        carnet().renumDives();
+        QCOMPARE(_book->desk.prompt.finish(), QStringList());
+        QCOMPARE(_book->numbers(), QList<int>({11, 12, 13}));
+    }
+
     void renumberingAnEmptyLogbookIsPossible() {
         carnet().renumDives();
         QCOMPARE(carnet().count(), 0);

@@ -1,4 +1,4 @@
-#include "interchange/NumberList.h"
+#include "logbook/NumberList.h"
 
 #include <QStringList>
 
