@@ -220,7 +220,7 @@ private Q_SLOTS:
         }
         carnet().panel().setText(panelcontrol::renumNumber, u"11"_s);
         _book->desk.prompt.expectAlert(_book->desk.strings.text({"Carnet", "Pressure in out"}) +
-                                       u" Dives concerned: 12, 13."_s);
+                                       u" Dives concerned: %@.|12, 13"_s);
         carnet().renumDives();
         QCOMPARE(_book->desk.prompt.finish(), QStringList());
         QCOMPARE(_book->numbers(), QList<int>({11, 12, 13}));
