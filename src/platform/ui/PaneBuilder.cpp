@@ -33,8 +33,9 @@ QVBoxLayout* newColumn(QHBoxLayout* columns) {
 }  // namespace
 
 QWidget* PaneBuilder::build(const LayoutPane& pane) {
-    auto* content = new QWidget;
-    auto* columns = new QHBoxLayout(content);
+    // A layout with a fault ends in an exception, which takes the half-built pane along.
+    auto content = std::make_unique<QWidget>();
+    auto* columns = new QHBoxLayout(content.get());
     columns->setSpacing(14);
     QVBoxLayout* column = nullptr;
     bool filled = false;
@@ -45,19 +46,19 @@ QWidget* PaneBuilder::build(const LayoutPane& pane) {
             filled = false;
         }
         _hasArea = false;
-        QWidget* box = section(pane, part);
+        QWidget* box = section(content.get(), pane, part);
         column->addWidget(box, _hasArea ? 1 : 0);
         filled = filled || _hasArea;
     }
     if (column && !filled) column->addStretch(1);
-    auto* scroll = new PaneScroller(content, columns);
+    auto* scroll = new PaneScroller(content.release(), columns);
     scroll->setObjectName(QLatin1String(pane.id));
     scroll->setAccessibleName(words(pane.label));
     return scroll;
 }
 
-QWidget* PaneBuilder::section(const LayoutPane& pane, const LayoutSection& section) {
-    QWidget* box = section.title.key ? new QGroupBox(words(section.title)) : new QWidget;
+QWidget* PaneBuilder::section(QWidget* parent, const LayoutPane& pane, const LayoutSection& section) {
+    QWidget* box = section.title.key ? new QGroupBox(words(section.title), parent) : new QWidget(parent);
     auto* grid = new QGridLayout(box);
     grid->setHorizontalSpacing(6);
     grid->setVerticalSpacing(6);

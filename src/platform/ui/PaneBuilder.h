@@ -25,7 +25,7 @@ public:
     QWidget* build(const LayoutPane& pane);
 
 private:
-    QWidget* section(const LayoutPane& pane, const LayoutSection& section);
+    QWidget* section(QWidget* parent, const LayoutPane& pane, const LayoutSection& section);
     void row(QWidget* parent, QGridLayout* grid, int at, const LayoutRow& row, int cells,
              const QStringList& names);
     QWidget* cell(QWidget* parent, const LayoutItem& item, QWidget* label, const QString& name);
