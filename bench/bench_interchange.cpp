@@ -112,7 +112,10 @@ void measureReading(QuietDesk& bench, const char* format, const QByteArray& byte
     });
     const double whole = bestOf(runs, [&] { read(bench, bytes, format); });
     row(qPrintable(QStringLiteral("floor: parse the bytes (%1)").arg(QLatin1String(format))), floor, size, 0);
+    const double tree =
+        bestOf(runs, [&] { use(diveReaderNamed(QLatin1String(format))->open(bytes)->count()); });
     row(qPrintable(QStringLiteral("import %1").arg(QLatin1String(format))), whole, size, floor);
+    row("    of that, until the dives are found", tree, size, floor);
     std::printf("    peak memory %.0f MB, of the parser alone %.0f MB, file %.0f MB\n",
                 peakOf(QLatin1String(format), path) / 1e6, peakOf(QStringLiteral("parse"), path) / 1e6,
                 size / 1e6);
