@@ -128,7 +128,7 @@ Moment Calendar::timeOfDay(pugi::xml_node element, const MomentNames& names) {
     const auto hour = part(element, names.hour);
     const auto minute = part(element, names.minute);
     if (!hour && !minute) return {};
-    constexpr qint64 minutesOfDay = 24 * 60;
+    constexpr qint64 minutesOfDay = 1440;
     const qint64 minutes = qint64(hour.value_or(0)) * 60 + minute.value_or(0);
     const qint64 ofDay = (minutes % minutesOfDay + minutesOfDay) % minutesOfDay;
     _minutes.resize(minutesOfDay);
